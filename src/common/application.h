@@ -1,0 +1,71 @@
+#pragma once
+// The program's process-wide state, one instance per run, reached by every
+// window and routine by reference. Each test builds its own.
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "command/tables.h"
+#include "data/family_member.h"
+#include "platform/system.h"
+#include "windows/frm_choose.h"
+#include "windows/frm_main.h"
+
+namespace qs {
+
+namespace ui {
+class Backend;
+}
+
+// Which message entry point was asked to show what.
+enum class MessageEntry { Process, Bug, End };
+struct MessageRequest {
+    MessageEntry entry;
+    std::wstring key;
+};
+
+struct Application {
+    explicit Application(System& system);
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    // Gives every form the window system to show itself with.
+    void AttachBackend(ui::Backend* backend);
+
+    System& sys;
+
+    // Command state.
+    std::wstring MessageToShow;
+    bool TextMainBusy = false;
+    std::int16_t PendingItemIndex = -1;
+    std::int16_t PendingFamilyIndex = -1;
+    std::int16_t PendingFeedbackIndex = -1;
+    std::int16_t OpenMenuIndex = -1;
+    std::int16_t PendingClick = -1;
+    bool HelpOpen = false;
+    bool QuickOpen = false;
+
+    // The program's place.
+    std::wstring WindowsFolder;
+    std::wstring ProgramFile;
+    std::wstring ProgramFolder;
+
+    // The bar's geometry.
+    std::int32_t MainWidth = MainWidthCommand;
+    std::int32_t MainWidthPixels = 0;
+    std::int32_t SavedMainTop = -1;
+
+    NameTables tables;
+
+    // The maker's other programs; FamilyMemberCount is the last index.
+    std::vector<FamilyMember> FamilyMembers;
+    std::int16_t FamilyMemberCount = -1;
+
+    // Every message the entry points were asked to show, in order.
+    std::vector<MessageRequest> messageRequests;
+
+    FrmMain frmMain;
+    FrmChoose frmChoose;
+};
+
+}  // namespace qs

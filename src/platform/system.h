@@ -1,0 +1,104 @@
+#pragma once
+// Everything the program asks of the operating system. The product gets the
+// Windows implementation; the tests get one over temporary folders that
+// records every launch.
+#include <cstdint>
+#include <string>
+
+namespace qs {
+
+// Drive types as the file system reports them.
+enum class DriveType : std::int16_t { Unknown = 0, Removable = 1, Fixed = 2, Network = 3, CDRom = 4, RamDisk = 5 };
+
+struct DriveInfo {
+    std::wstring letter;  // "C", as the system spells it
+    std::wstring path;    // "C:"
+    DriveType type = DriveType::Unknown;
+};
+
+struct PixelRect {
+    std::int32_t left = 0;
+    std::int32_t top = 0;
+    std::int32_t right = 0;
+    std::int32_t bottom = 0;
+};
+
+struct CalendarDate {
+    std::int32_t year = 0;
+    std::int32_t month = 0;
+    std::int32_t day = 0;
+};
+
+struct ShortcutSpec {
+    std::wstring linkPath;
+    std::wstring targetPath;
+    std::int32_t windowStyle = 1;
+    std::wstring hotkey;
+    std::wstring iconLocation;
+    std::wstring description;
+    std::wstring workingDirectory;
+};
+
+class System {
+public:
+    virtual ~System() = default;
+
+    // Shell. ShellOpen opens a target by its association with the verb "open"
+    // and shows the result normally; 33 or more is success. ShellRun starts a
+    // whole command line with normal focus and throws SystemCallFailed when
+    // the program cannot be started.
+    virtual std::int32_t ShellOpen(const std::wstring& target) = 0;
+    virtual void ShellRun(const std::wstring& commandLine) = 0;
+    // Path of a special folder by its key ("Desktop", "MyDocuments", ...);
+    // "" for a key the system does not know.
+    virtual std::wstring SpecialFolder(const std::wstring& key) = 0;
+    // The Windows folder, as the system gives it (no trailing backslash).
+    virtual std::wstring WindowsDirectory() = 0;
+    virtual std::wstring Environment(const std::wstring& name) = 0;
+
+    // Registry by full key path, as "HKEY_CURRENT_USER\...\Name". All three
+    // throw SystemCallFailed on failure (a missing value included).
+    virtual void RegWrite(const std::wstring& key, const std::wstring& value) = 0;
+    virtual std::wstring RegRead(const std::wstring& key) = 0;
+    virtual void RegDelete(const std::wstring& key) = 0;
+
+    // File system. GetDriveName gives "C:" for a path that starts with a
+    // drive, "" otherwise; GetDrive throws SystemCallFailed for a drive that
+    // does not exist.
+    virtual std::wstring GetDriveName(const std::wstring& path) = 0;
+    virtual DriveInfo GetDrive(const std::wstring& driveName) = 0;
+    virtual bool FileExists(const std::wstring& path) = 0;
+    virtual bool FolderExists(const std::wstring& path) = 0;
+    virtual void CreateFolder(const std::wstring& path) = 0;
+    virtual std::int32_t GetAttributes(const std::wstring& path) = 0;
+    virtual void DeleteFile(const std::wstring& path) = 0;
+    // Whole-file text in the machine's 8-bit code page, converted to and
+    // from wide text here and nowhere else. Both throw SystemCallFailed.
+    virtual std::wstring ReadTextFile(const std::wstring& path) = 0;
+    virtual void WriteTextFile(const std::wstring& path, const std::wstring& text) = 0;
+
+    // The program's own place and the single-instance mechanism.
+    virtual std::wstring ApplicationFolder() = 0;
+    // True when another copy of the program is already running.
+    virtual bool AnotherCopyRunning() = 0;
+    // Brings the running copy's bar to the front, out of the tray if needed.
+    virtual void SurfaceRunningCopy() = 0;
+
+    // Screen.
+    virtual std::int32_t ScreenWidthTwips() = 0;
+    virtual std::int32_t ScreenHeightTwips() = 0;
+    virtual std::int32_t TwipsPerPixelX() = 0;
+    virtual std::int32_t TwipsPerPixelY() = 0;
+    virtual PixelRect WorkArea() = 0;
+
+    virtual CalendarDate Today() = 0;
+
+    // Desktop integration.
+    virtual void StartScreenSaver() = 0;
+    virtual void CreateShortcut(const ShortcutSpec& shortcut) = 0;
+
+    // Ends the process at once, nothing saved.
+    [[noreturn]] virtual void EndProgram() = 0;
+};
+
+}  // namespace qs

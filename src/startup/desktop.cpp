@@ -1,0 +1,57 @@
+#include "startup/desktop.h"
+
+#include "common/application.h"
+#include "startup/active_message.h"
+
+namespace qs {
+
+namespace {
+
+std::wstring ShortcutFile(Application& app) { return app.sys.SpecialFolder(L"Desktop") + L"\\" + L"Quillstart" + L".lnk"; }
+
+void ReportBug(Application& app, const wchar_t* tag) {
+    app.MessageToShow = tag;
+    MessageBug(app);
+}
+
+}  // namespace
+
+void StartScreenSaver(Application& app) {
+    try {
+        app.frmMain.SetTextMainQuietly(L"");
+        app.sys.StartScreenSaver();
+    } catch (const std::exception&) {
+        ReportBug(app, L"Quillstart:Bug:StartScreenSaver");
+    }
+}
+
+void StartShortcutCreate(Application& app) {
+    try {
+        ShortcutSpec link;
+        link.linkPath = ShortcutFile(app);
+        link.targetPath = app.ProgramFile;
+        link.windowStyle = 1;
+        link.hotkey = L"CTRL+SHIFT+L";
+        // The icon names the program's fixed file name, the target its real one.
+        link.iconLocation = app.ProgramFolder + L"Quillstart" + L".exe, 0";
+        link.description = L"Quillstart";
+        link.workingDirectory = app.ProgramFolder;
+        app.sys.CreateShortcut(link);
+        app.MessageToShow = L"MessageShortcutCreated";
+        MessageProcess(app);
+    } catch (const std::exception&) {
+        ReportBug(app, L"Quillstart:Bug:StartShortcutCrea");
+    }
+}
+
+void StartShortcutDelete(Application& app) {
+    try {
+        app.sys.DeleteFile(ShortcutFile(app));
+        app.MessageToShow = L"MessageShortcutDeleted";
+        MessageProcess(app);
+    } catch (const std::exception&) {
+        ReportBug(app, L"Quillstart:Bug:StartShortcutDelete");
+    }
+}
+
+}  // namespace qs

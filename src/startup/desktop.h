@@ -1,0 +1,12 @@
+#pragma once
+// The operations that reach into the desktop: the screen saver and the
+// program's desktop shortcut.
+namespace qs {
+
+struct Application;
+
+void StartScreenSaver(Application& app);
+void StartShortcutCreate(Application& app);
+void StartShortcutDelete(Application& app);
+
+}  // namespace qs

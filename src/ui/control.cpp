@@ -1,0 +1,39 @@
+#include "ui/control.h"
+
+#include "ui/form.h"
+
+namespace qs::ui {
+
+Control::Control(Form& owner, ControlKind kind, std::wstring name)
+    : owner_(owner), kind_(kind), name_(std::move(name)) {
+    owner_.Register(*this);
+}
+
+void Control::Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) {
+    left_ = left;
+    top_ = top;
+    width_ = width;
+    height_ = height;
+    Notify(Property::Geometry);
+}
+
+void Control::SetVisible(bool visible) {
+    if (visible_ == visible) return;
+    visible_ = visible;
+    Notify(Property::Visible);
+}
+
+void Control::SetEnabled(bool enabled) {
+    if (enabled_ == enabled) return;
+    enabled_ = enabled;
+    Notify(Property::Enabled);
+}
+
+void Control::SetToolTipText(std::wstring text) {
+    toolTip_ = std::move(text);
+    Notify(Property::ToolTip);
+}
+
+void Control::SetFocus() { Notify(Property::Focus); }
+
+}  // namespace qs::ui

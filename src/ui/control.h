@@ -1,0 +1,86 @@
+#pragma once
+// Base of every control of the runtime. A control keeps its own state, so a
+// form works with no window at all; a peer, when one is attached, mirrors each
+// property change onto a real window and feeds the user's input back.
+#include <cstdint>
+#include <string>
+
+namespace qs::ui {
+
+class Form;
+
+enum class Property {
+    Geometry,
+    Visible,
+    Enabled,
+    Text,
+    Selection,
+    Locked,
+    Items,
+    ListIndex,
+    Picture,
+    Interval,
+    Focus,
+    ToolTip,
+    TopMost,
+};
+
+enum class ControlKind { TextBox, Label, CommandButton, Timer, ListBox, PictureBox, CheckBox };
+
+class ControlPeer {
+public:
+    virtual ~ControlPeer() = default;
+    virtual void Changed(Property what) = 0;
+};
+
+class Control {
+public:
+    Control(Form& owner, ControlKind kind, std::wstring name);
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    virtual ~Control() = default;
+
+    ControlKind Kind() const { return kind_; }
+    const std::wstring& Name() const { return name_; }
+    Form& Owner() const { return owner_; }
+
+    // Geometry in twips, relative to the form's client area.
+    std::int32_t Left() const { return left_; }
+    std::int32_t Top() const { return top_; }
+    std::int32_t Width() const { return width_; }
+    std::int32_t Height() const { return height_; }
+    void Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height);
+
+    bool Visible() const { return visible_; }
+    void SetVisible(bool visible);
+    bool Enabled() const { return enabled_; }
+    void SetEnabled(bool enabled);
+    const std::wstring& ToolTipText() const { return toolTip_; }
+    void SetToolTipText(std::wstring text);
+
+    // Asks for the keyboard focus; the peer moves it on a real window.
+    void SetFocus();
+
+    void AttachPeer(ControlPeer* peer) { peer_ = peer; }
+    ControlPeer* Peer() const { return peer_; }
+
+protected:
+    void Notify(Property what) {
+        if (peer_ != nullptr) peer_->Changed(what);
+    }
+
+private:
+    Form& owner_;
+    ControlKind kind_;
+    std::wstring name_;
+    std::int32_t left_ = 0;
+    std::int32_t top_ = 0;
+    std::int32_t width_ = 0;
+    std::int32_t height_ = 0;
+    bool visible_ = true;
+    bool enabled_ = true;
+    std::wstring toolTip_;
+    ControlPeer* peer_ = nullptr;
+};
+
+}  // namespace qs::ui

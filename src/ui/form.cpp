@@ -1,0 +1,70 @@
+#include "ui/form.h"
+
+#include "ui/backend.h"
+
+namespace qs::ui {
+
+Form::Form(std::wstring name, FormStyle style) : name_(std::move(name)), style_(style) {}
+
+void Form::SetCaption(std::wstring caption) {
+    caption_ = std::move(caption);
+    Notify(Property::Text);
+}
+
+void Form::Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) {
+    left_ = left;
+    top_ = top;
+    width_ = width;
+    height_ = height;
+    Notify(Property::Geometry);
+}
+
+void Form::SetTopMost(bool topMost) {
+    topMost_ = topMost;
+    Notify(Property::TopMost);
+}
+
+void Form::Load() {
+    if (loaded_) return;
+    loaded_ = true;
+    if (backend_ != nullptr) backend_->FormLoaded(*this);
+    if (LoadEvent) LoadEvent();
+}
+
+void Form::Show() {
+    Load();
+    if (visible_) return;
+    visible_ = true;
+    Notify(Property::Visible);
+}
+
+void Form::ShowModal() {
+    Load();
+    modal_ = true;
+    visible_ = true;
+    Notify(Property::Visible);
+    if (backend_ != nullptr) backend_->RunModal(*this);
+    modal_ = false;
+}
+
+void Form::Hide() {
+    if (!visible_) return;
+    visible_ = false;
+    Notify(Property::Visible);
+}
+
+void Form::Unload() {
+    if (!loaded_) return;
+    if (UnloadEvent) UnloadEvent();
+    visible_ = false;
+    Notify(Property::Visible);
+    loaded_ = false;
+    if (backend_ != nullptr) backend_->FormUnloaded(*this);
+}
+
+void Form::UserMoved(std::int32_t left, std::int32_t top) {
+    left_ = left;
+    top_ = top;
+}
+
+}  // namespace qs::ui

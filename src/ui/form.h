@@ -1,0 +1,93 @@
+#pragma once
+// A top-level window of the program: its controls, its geometry in twips,
+// and its life cycle (Load, Show, Hide, modal Show, Unload).
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "ui/control.h"
+
+namespace qs::ui {
+
+class Backend;
+
+enum class FormStyle { Borderless, Dialog };
+
+class FormPeer {
+public:
+    virtual ~FormPeer() = default;
+    virtual void Changed(Property what) = 0;
+};
+
+class Form {
+public:
+    Form(std::wstring name, FormStyle style);
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+    virtual ~Form() = default;
+
+    const std::wstring& Name() const { return name_; }
+    FormStyle Style() const { return style_; }
+    const std::vector<Control*>& Controls() const { return controls_; }
+    void Register(Control& control) { controls_.push_back(&control); }
+
+    const std::wstring& Caption() const { return caption_; }
+    void SetCaption(std::wstring caption);
+
+    std::int32_t Left() const { return left_; }
+    std::int32_t Top() const { return top_; }
+    std::int32_t Width() const { return width_; }
+    std::int32_t Height() const { return height_; }
+    void SetLeft(std::int32_t v) { Move(v, top_, width_, height_); }
+    void SetTop(std::int32_t v) { Move(left_, v, width_, height_); }
+    void SetWidth(std::int32_t v) { Move(left_, top_, v, height_); }
+    void SetHeight(std::int32_t v) { Move(left_, top_, width_, v); }
+    void Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height);
+
+    bool IsLoaded() const { return loaded_; }
+    bool Visible() const { return visible_; }
+    bool TopMost() const { return topMost_; }
+    void SetTopMost(bool topMost);
+
+    // Loads the form if needed; Load fires once per load.
+    void Load();
+    void Show();
+    // Shows the form and returns when it has been hidden or unloaded.
+    void ShowModal();
+    void Hide();
+    void Unload();
+    bool IsModal() const { return modal_; }
+
+    void SetBackend(Backend* backend) { backend_ = backend; }
+    void AttachPeer(FormPeer* peer) { peer_ = peer; }
+    FormPeer* Peer() const { return peer_; }
+
+    std::function<void()> LoadEvent;
+    std::function<void()> UnloadEvent;
+
+    // The user moved the form (dragged it, or the system placed it).
+    void UserMoved(std::int32_t left, std::int32_t top);
+
+private:
+    void Notify(Property what) {
+        if (peer_ != nullptr) peer_->Changed(what);
+    }
+
+    std::wstring name_;
+    FormStyle style_;
+    std::vector<Control*> controls_;
+    std::wstring caption_;
+    std::int32_t left_ = 0;
+    std::int32_t top_ = 0;
+    std::int32_t width_ = 0;
+    std::int32_t height_ = 0;
+    bool loaded_ = false;
+    bool visible_ = false;
+    bool modal_ = false;
+    bool topMost_ = false;
+    Backend* backend_ = nullptr;
+    FormPeer* peer_ = nullptr;
+};
+
+}  // namespace qs::ui

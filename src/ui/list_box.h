@@ -1,0 +1,50 @@
+#pragma once
+// A list of strings, sorted or in insertion order, as the list and combo
+// controls keep them. A sorted list inserts each new item at its place by the
+// program's case rule, after any equal items.
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "ui/control.h"
+
+namespace qs::ui {
+
+class ListBox : public Control {
+public:
+    ListBox(Form& owner, std::wstring name, bool sorted);
+
+    bool Sorted() const { return sorted_; }
+
+    // Adds an item and returns the position it took. Without an index a sorted
+    // list finds the place; an unsorted one appends.
+    std::int32_t AddItem(const std::wstring& item);
+    std::int32_t AddItem(const std::wstring& item, std::int32_t index);
+    void RemoveItem(std::int32_t index);
+    void Clear();
+
+    // Throws SubscriptOutOfRange outside 0..ListCount-1.
+    const std::wstring& List(std::int32_t index) const;
+    void SetList(std::int32_t index, const std::wstring& item);
+    std::int32_t ListCount() const { return static_cast<std::int32_t>(items_.size()); }
+    const std::vector<std::wstring>& Items() const { return items_; }
+
+    // -1 when nothing is selected; setting it fires Click.
+    std::int32_t ListIndex() const { return listIndex_; }
+    void SetListIndex(std::int32_t index);
+
+    std::function<void()> Click;
+
+    // The user picked an entry in the real control.
+    void UserSelected(std::int32_t index);
+
+private:
+    std::int32_t SortedPlace(const std::wstring& item) const;
+
+    std::vector<std::wstring> items_;
+    std::int32_t listIndex_ = -1;
+    bool sorted_;
+};
+
+}  // namespace qs::ui

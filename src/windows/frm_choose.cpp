@@ -1,0 +1,14 @@
+#include "windows/frm_choose.h"
+
+namespace qs {
+
+FrmChoose::FrmChoose(Application& app) : ui::Form(L"frmChoose", ui::FormStyle::Borderless), app_(app) {
+    for (std::size_t group = 0; group < ComboListItemName.size(); ++group) {
+        ComboListItemName[group] = std::make_unique<ui::ListBox>(*this, L"ComboListItemName", true);
+        ComboListItemPath[group] = std::make_unique<ui::ListBox>(*this, L"ComboListItemPath", false);
+        ComboListItemName[group]->SetVisible(false);
+        ComboListItemPath[group]->SetVisible(false);
+    }
+}
+
+}  // namespace qs

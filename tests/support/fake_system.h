@@ -1,0 +1,93 @@
+#pragma once
+// The operating system as the unit tests see it: drive letters mapped onto
+// temporary folders of the real file system, a registry in memory, and a
+// record of every launch.
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/system.h"
+
+namespace qs::test {
+
+// Thrown by EndProgram; deliberately not a std::exception, so that no
+// failure handler of the program can swallow it.
+struct ProgramEnded {};
+
+struct Launch {
+    enum class Kind { Open, Run } kind;
+    std::wstring target;
+};
+
+class FakeSystem : public System {
+public:
+    FakeSystem();
+    ~FakeSystem() override;
+
+    // Maps a drive letter onto a fresh folder under the test's temporary root
+    // and returns that folder.
+    std::filesystem::path MapDrive(wchar_t letter, DriveType type);
+    // The Linux path of a Windows path on a mapped drive.
+    std::filesystem::path HostPath(const std::wstring& windowsPath) const;
+    // Writes a file at a Windows path, making its folders.
+    void PutFile(const std::wstring& windowsPath, const std::string& bytes = "x");
+    std::string FileBytes(const std::wstring& windowsPath) const;
+
+    std::vector<Launch> launches;
+    std::map<std::wstring, std::wstring> registry;
+    std::map<std::wstring, std::wstring> environment;
+    std::map<std::wstring, std::wstring> specialFolders;
+    std::wstring applicationFolder = L"C:\\Tools\\";
+    bool anotherCopyRunning = false;
+    int surfaced = 0;
+    int screenSaverStarts = 0;
+    std::vector<ShortcutSpec> shortcuts;
+    std::int32_t screenWidthTwips = 1920 * 15;
+    std::int32_t screenHeightTwips = 1080 * 15;
+    std::int32_t twipsPerPixel = 15;
+    PixelRect workArea{0, 0, 1920, 1040};
+    CalendarDate today{2026, 11, 15};
+    // When set, every shell call throws as a broken shell would.
+    bool shellThrows = false;
+
+    std::int32_t ShellOpen(const std::wstring& target) override;
+    void ShellRun(const std::wstring& commandLine) override;
+    std::wstring SpecialFolder(const std::wstring& key) override;
+    std::wstring WindowsDirectory() override { return L"C:\\Windows"; }
+    std::wstring Environment(const std::wstring& name) override;
+    void RegWrite(const std::wstring& key, const std::wstring& value) override;
+    std::wstring RegRead(const std::wstring& key) override;
+    void RegDelete(const std::wstring& key) override;
+    std::wstring GetDriveName(const std::wstring& path) override;
+    DriveInfo GetDrive(const std::wstring& driveName) override;
+    bool FileExists(const std::wstring& path) override;
+    bool FolderExists(const std::wstring& path) override;
+    void CreateFolder(const std::wstring& path) override;
+    std::int32_t GetAttributes(const std::wstring& path) override;
+    void DeleteFile(const std::wstring& path) override;
+    std::wstring ReadTextFile(const std::wstring& path) override;
+    void WriteTextFile(const std::wstring& path, const std::wstring& text) override;
+    std::wstring ApplicationFolder() override { return applicationFolder; }
+    bool AnotherCopyRunning() override { return anotherCopyRunning; }
+    void SurfaceRunningCopy() override { ++surfaced; }
+    std::int32_t ScreenWidthTwips() override { return screenWidthTwips; }
+    std::int32_t ScreenHeightTwips() override { return screenHeightTwips; }
+    std::int32_t TwipsPerPixelX() override { return twipsPerPixel; }
+    std::int32_t TwipsPerPixelY() override { return twipsPerPixel; }
+    PixelRect WorkArea() override { return workArea; }
+    CalendarDate Today() override { return today; }
+    void StartScreenSaver() override { ++screenSaverStarts; }
+    void CreateShortcut(const ShortcutSpec& shortcut) override;
+    [[noreturn]] void EndProgram() override { throw ProgramEnded{}; }
+
+    std::map<wchar_t, DriveType> driveTypes;
+    std::map<std::wstring, std::int32_t> attributes;
+    // Paths (Windows form, any case) whose writes fail, as on read-only media.
+    std::vector<std::wstring> readOnlyPrefixes;
+
+private:
+    std::filesystem::path root_;
+};
+
+}  // namespace qs::test

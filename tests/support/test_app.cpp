@@ -1,0 +1,21 @@
+#include "test_app.h"
+
+#include "command/default_values.h"
+
+namespace qs::test {
+
+TestApp::TestApp() : app(sys) {
+    app.WindowsFolder = L"C:\\Windows\\";
+    AtStartDefaultValue(app);
+    app.frmMain.Load();
+    ClearBox();
+}
+
+void TestApp::AddItem(int group, const std::wstring& name, const std::wstring& path) {
+    auto& names = *app.frmChoose.ComboListItemName[static_cast<std::size_t>(group)];
+    auto& paths = *app.frmChoose.ComboListItemPath[static_cast<std::size_t>(group)];
+    const auto at = names.AddItem(name);
+    paths.AddItem(path, at);
+}
+
+}  // namespace qs::test
