@@ -1,0 +1,58 @@
+#pragma once
+// The one file channel: a data file is read or written whole, in the
+// machine's 8-bit code page, within one call. Values are read and written in
+// the program's text form: integers in plain decimal, strings between double
+// quotes with nothing escaped, values of one line separated by commas, lines
+// ended by CR LF.
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace qs {
+
+struct Application;
+
+// Whole-file read and write; failures reach the caller's handler.
+std::wstring ReadDataFile(Application& app, const std::wstring& path);
+void WriteDataFile(Application& app, const std::wstring& path, const std::wstring& text);
+
+// Reads values one at a time from a file's text. Spaces before a value are
+// skipped; a value that begins with a double quote runs to the next double
+// quote; anything else runs up to the next comma or line end. Reading past
+// the end throws InputPastEnd; a number field holding text throws
+// TypeMismatch, one out of range Overflow.
+class RecordReader {
+public:
+    explicit RecordReader(std::wstring text) : text_(std::move(text)) {}
+
+    std::wstring ReadString();
+    std::int16_t ReadInt16();
+    std::int32_t ReadInt32();
+    // True when only blanks and line ends remain.
+    bool AtEnd() const;
+
+private:
+    long long ReadInteger(long long low, long long high);
+    void SkipDelimiter();
+
+    std::wstring text_;
+    std::size_t at_ = 0;
+};
+
+// Builds a file's text value by value.
+class RecordWriter {
+public:
+    RecordWriter& String(std::wstring_view value);
+    RecordWriter& Integer(long long value);
+    // Ends the current line.
+    RecordWriter& EndLine();
+    const std::wstring& Text() const { return text_; }
+
+private:
+    void Separate();
+
+    std::wstring text_;
+    bool lineStarted_ = false;
+};
+
+}  // namespace qs

@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#include "common/failure.h"
+#include "data/file_channel.h"
+
+namespace {
+
+using qs::RecordReader;
+using qs::RecordWriter;
+
+TEST(RecordReaderTest, ReadsOneValuePerLineAndSeveralPerLine) {
+    RecordReader r(L"10\r\n\"Some text\"\r\n\"a\",\"b\",-3\r\n");
+    EXPECT_EQ(r.ReadInt16(), 10);
+    EXPECT_EQ(r.ReadString(), L"Some text");
+    EXPECT_EQ(r.ReadString(), L"a");
+    EXPECT_EQ(r.ReadString(), L"b");
+    EXPECT_EQ(r.ReadInt16(), -3);
+    EXPECT_TRUE(r.AtEnd());
+    EXPECT_THROW(r.ReadString(), qs::InputPastEnd);
+}
+
+TEST(RecordReaderTest, QuotedValueKeepsCommasAndRunsToNextQuote) {
+    RecordReader r(L"  \"C:\\a, b\\\",x\r\n");
+    EXPECT_EQ(r.ReadString(), L"C:\\a, b\\");
+    EXPECT_EQ(r.ReadString(), L"x");
+}
+
+TEST(RecordReaderTest, UnquotedValueRunsToCommaOrLineEnd) {
+    RecordReader r(L"abc def,ghi\nlast");
+    EXPECT_EQ(r.ReadString(), L"abc def");
+    EXPECT_EQ(r.ReadString(), L"ghi");
+    EXPECT_EQ(r.ReadString(), L"last");
+}
+
+TEST(RecordReaderTest, TextInANumberFieldIsATypeMismatch) {
+    RecordReader r(L"\"abc\"\r\n");
+    EXPECT_THROW(r.ReadInt16(), qs::TypeMismatch);
+}
+
+TEST(RecordReaderTest, NumberOutsideSixteenBitsOverflows) {
+    RecordReader r(L"32768\r\n-32769\r\n32767\r\n");
+    EXPECT_THROW(r.ReadInt16(), qs::Overflow);
+    EXPECT_THROW(r.ReadInt16(), qs::Overflow);
+    EXPECT_EQ(r.ReadInt16(), 32767);
+}
+
+TEST(RecordReaderTest, ThirtyTwoBitField) {
+    RecordReader r(L"226151102\r\n");
+    EXPECT_EQ(r.ReadInt32(), 226151102);
+}
+
+TEST(RecordWriterTest, WritesQuotedStringsPlainNumbersAndCrLf) {
+    RecordWriter w;
+    w.Integer(10).EndLine().String(L"").EndLine().String(L"n").String(L"C:\\x").Integer(-1).EndLine();
+    EXPECT_EQ(w.Text(), L"10\r\n\"\"\r\n\"n\",\"C:\\x\",-1\r\n");
+}
+
+}  // namespace
