@@ -8,6 +8,7 @@
 #include "command/tables.h"
 #include "data/family_member.h"
 #include "platform/system.h"
+#include "startup/program_place.h"
 #include "windows/frm_choose.h"
 #include "windows/frm_main.h"
 
@@ -49,6 +50,8 @@ struct Application {
     std::wstring WindowsFolder;
     std::wstring ProgramFile;
     std::wstring ProgramFolder;
+    ProgramPlace place;
+    DataFiles files;
 
     // The bar's geometry.
     std::int32_t MainWidth = MainWidthCommand;

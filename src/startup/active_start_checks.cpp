@@ -1,0 +1,143 @@
+#include "startup/active_start_checks.h"
+
+#include "common/application.h"
+#include "common/failure.h"
+#include "common/text_case.h"
+#include "startup/active_message.h"
+
+namespace qs {
+
+namespace {
+
+void ReportBug(Application& app, const wchar_t* routine) {
+    app.MessageToShow = std::wstring(L"Quillstart:Bug:") + routine;
+    MessageBug(app);
+}
+
+void EnsureFolder(Application& app, const std::wstring& folder) {
+    if (!app.sys.FolderExists(folder)) app.sys.CreateFolder(folder);
+}
+
+}  // namespace
+
+void AtStartPrevInstance(Application& app) {
+    try {
+        // The running copy's bar comes forward; this copy leaves in silence.
+        app.sys.SurfaceRunningCopy();
+        app.sys.EndProgram();
+    } catch (const std::exception&) {
+        ReportBug(app, L"AtStartPrevInstance");
+    }
+}
+
+void AtStartConfirmScreen(Application& app) {
+    try {
+        if (app.sys.ScreenWidthTwips() < 13000 || app.sys.ScreenHeightTwips() < 9600) {
+            app.MessageToShow = L"MessageSmallScreen";
+            MessageEnd(app);
+        }
+        const PixelRect area = app.sys.WorkArea();
+        app.place.WorkAreaLeft = area.left;
+        app.place.WorkAreaTop = area.top;
+        app.place.WorkAreaRight = area.right;
+        app.place.WorkAreaBottom = area.bottom;
+    } catch (const std::exception&) {
+        ReportBug(app, L"AtStartConfirmScreen");
+    }
+}
+
+std::wstring AtStartProgramFile(Application& app) {
+    std::wstring folder = app.sys.ApplicationFolder();
+    if (folder.empty() || folder.back() != L'\\') folder += L"\\";
+    app.ProgramFile = folder + L"Quillstart" + L".exe";
+    if (!app.sys.FileExists(app.ProgramFile)) {
+        app.MessageToShow = L"MessageProgFileNameChanged";
+        MessageEnd(app);
+    }
+    return folder;
+}
+
+std::wstring AtStartSysPath(Application& app, std::wstring& programFolderUpper) {
+    try {
+        std::wstring folder = app.sys.WindowsDirectory();
+        if (!folder.empty() && folder.size() < 255 && folder.back() != L'\\') folder += L"\\";
+        app.WindowsFolder = folder;
+        app.place.WindowsFolderLength = ToInt16(static_cast<long long>(folder.size()));
+        const auto n = static_cast<std::size_t>(app.place.WindowsFolderLength);
+        if (programFolderUpper.size() >= n && programFolderUpper.compare(0, n, UCase(folder)) == 0) {
+            return L"MessageProgInSystem";
+        }
+        return L"";
+    } catch (const std::exception&) {
+        ReportBug(app, L"AtStartSysPath");
+        return L"";
+    }
+}
+
+std::wstring AtStartPathRoot(Application& app, std::wstring& path) {
+    try {
+        const std::size_t slash = path.find(L'\\');
+        return slash == std::wstring::npos ? L"" : path.substr(0, slash + 1);
+    } catch (const std::exception&) {
+        ReportBug(app, L"AtStartPathRoot");
+        return L"";
+    }
+}
+
+std::wstring AtStartDriveType(Application& app, std::wstring& root) {
+    try {
+        switch (app.sys.GetDrive(app.sys.GetDriveName(root)).type) {
+            case DriveType::Removable:
+                app.place.OnRemovable = true;
+                return L"";
+            case DriveType::Fixed:
+                app.place.OnRemovable = false;
+                return L"";
+            case DriveType::CDRom:
+                return L"MessageMediaCDRom";
+            default:
+                return L"MessageMediaUnknown";
+        }
+    } catch (const std::exception&) {
+        // The drive service itself failed: the scripting runtime is missing.
+        app.MessageToShow = L"MessageNeedSriptRuntime";
+        MessageEnd(app);
+        return L"";
+    }
+}
+
+void AtStartSetFileFolder(Application& app, bool& onRemovable) {
+    try {
+        auto& f = app.files;
+        const std::wstring base = onRemovable ? app.place.ProgramRoot : app.place.WindowsRoot;
+        const std::wstring maker = base + L"Morvane\\";
+        EnsureFolder(app, maker);
+        const std::wstring family = maker + L"Kinfold\\";
+        EnsureFolder(app, family);
+        f.FileGuru = family + L"Guru.Morvane";
+        f.FileKinfold = family + L"Kinfold.Morvane";
+        const std::wstring apps = maker + L"Morvane Apps\\";
+        EnsureFolder(app, apps);
+        const std::wstring shared = apps + L"Quillstart\\";
+        EnsureFolder(app, shared);
+        f.FileComData = shared + L"COMData.Morvane";
+        f.FileListMail = shared + L"ListMail.Morvane";
+        f.FileListWeb = shared + L"ListWeb.Morvane";
+        f.FileUsbData = shared + L"USBData.Morvane";
+        f.FileListUsbFile = shared + L"ListUSBFile.Morvane";
+        f.FileListUsbFold = shared + L"ListUSBFold.Morvane";
+        f.FileListUsbProg = shared + L"ListUSBProg.Morvane";
+        const std::wstring computer = onRemovable ? maker + app.place.ComputerName + L"\\" : apps;
+        EnsureFolder(app, computer);
+        const std::wstring computerData = computer + L"Quillstart\\";
+        EnsureFolder(app, computerData);
+        f.FileSet = computerData + L"Set.Morvane";
+        f.FileListFile = computerData + L"ListFile.Morvane";
+        f.FileListFold = computerData + L"ListFold.Morvane";
+        f.FileListProg = computerData + L"ListProg.Morvane";
+    } catch (const std::exception&) {
+        ReportBug(app, L"AtStartSetFileFolder");
+    }
+}
+
+}  // namespace qs
