@@ -7,7 +7,7 @@
 
 namespace qs::test {
 
-inline std::vector<MessageRequest> ShownMessages(TestApp& t) { return t.dialogs.shown; }
+inline const std::vector<MessageRequest>& ShownMessages(TestApp& t) { return t.dialogs.shown; }
 
 inline bool BugShown(TestApp& t, const std::wstring& tag) {
     for (const auto& m : ShownMessages(t))
