@@ -130,7 +130,11 @@ void MessageAAAct(Application& app, std::wstring& caption, std::wstring& body, s
         }
         form.ShowModal();
     } catch (const std::exception&) {
-        ReportOwnFailure(app, L"Quillstart:Bug:MessageAAAct");
+        // A dialog that fails while it reports its own failure would report
+        // it again without end; that one time it stays silent.
+        const wchar_t* const tag = L"Quillstart:Bug:MessageAAAct";
+        if (app.message.MessageIsBug && app.MessageToShow == tag) return;
+        ReportOwnFailure(app, tag);
     }
 }
 

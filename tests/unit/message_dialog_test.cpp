@@ -2,6 +2,8 @@
 // button sets, fatal messages, unknown keys, the bar's topmost timer.
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include "data/control_data.h"
 #include "shown_messages.h"
 #include "startup/active_message.h"
@@ -303,6 +305,25 @@ TEST(MessageDialog, ButtonsAtStartUpTakeTheFixedPressedPictureBothWays) {
     });
     t.app.MessageToShow = L"Quillstart:Bug:ThemeCreate";
     qs::MessageBug(t.app);
+}
+
+TEST(MessageDialog, FailureWhileShowingReportsTheDialogsOwnTag) {
+    TestApp t;
+    t.dialogs.Answer([](qs::FrmMessage&) { throw std::runtime_error("window failed"); });
+    Process(t, L"MessageDriveNotReady");
+    ASSERT_EQ(ShownMessages(t).size(), 2u);
+    EXPECT_EQ(ShownMessages(t)[1].entry, MessageEntry::Bug);
+    EXPECT_EQ(ShownMessages(t)[1].key, L"Quillstart:Bug:MessageAAAct");
+    EXPECT_FALSE(t.app.frmMessage.IsLoaded());
+}
+
+TEST(MessageDialog, DialogFailingAlsoForItsOwnReportStopsReporting) {
+    TestApp t;
+    const auto fail = [](qs::FrmMessage&) { throw std::runtime_error("window failed"); };
+    t.dialogs.Answer(fail);
+    t.dialogs.Answer(fail);
+    Process(t, L"MessageDriveNotReady");
+    EXPECT_EQ(ShownMessages(t).size(), 2u);
 }
 
 TEST(MessageDialog, ShortcutTasksShowTheirMessages) {

@@ -6,6 +6,7 @@
 #include "data/registry_value.h"
 #include "records_app.h"
 #include "shown_messages.h"
+#include "startup/saved_options.h"
 
 namespace {
 
@@ -205,6 +206,11 @@ TEST(RecordsSet, OptionWordZeroIsLegal) {
     Get(r);
     EXPECT_EQ(r.app.settings.OptionWord, 0);
     EXPECT_TRUE(ShownMessages(r).empty());
+    qs::AtStartsavedOptions(r.app, r.app.settings.OptionWord);
+    const auto& s = r.app.settings;
+    for (const std::int16_t flag : {s.OptionStartWithWindows, s.OptionShowAddUrlBox, s.OptionStartMinimized,
+                                    s.OptionAddUrlFontBold, s.OptionMainFontBold, s.OptionAlwaysOnTop})
+        EXPECT_EQ(flag, 0);
 }
 
 TEST(RecordsSet, FontSizeFiveIsKeptAsFiveInTheRecord) {
