@@ -52,7 +52,8 @@ void SetWorking(Settings& s, std::size_t index, const RecordValue& value) {
 }
 
 RecordValue DefaultValue(std::size_t index, bool onRemovable) {
-    constexpr std::array<std::int16_t, SetRecordVersion + 1> Integers = {SetRecordVersion, 57, 0, 0, 0, -1, -1, -1, 8, 2, 0};
+    constexpr std::array<std::int16_t, SetRecordVersion + 1> Integers = {
+        SetRecordVersion, 57, 0, 0, 0, -1, -1, -1, 8, 2, 0};
     if (index == LastFolderIndex) return std::wstring();
     if (index == 1) return std::int16_t{onRemovable ? std::int16_t{56} : std::int16_t{57}};
     return Integers[index];
@@ -75,7 +76,8 @@ void ControlDataGet(Application& app, bool& onRemovable) {
         RecordReader reader(ReadDataFile(app, s.FileSet));
         std::int16_t version = -1;
         for (std::size_t i = 0; i <= SetRecordVersion; ++i) {
-            const RecordValue value = i == LastFolderIndex ? RecordValue(reader.ReadString()) : RecordValue(reader.ReadInt16());
+            const RecordValue value =
+                i == LastFolderIndex ? RecordValue(reader.ReadString()) : RecordValue(reader.ReadInt16());
             s.SetRecord[i] = value;
             SetWorking(s, i, value);
             if (i == 0) version = std::get<std::int16_t>(value);

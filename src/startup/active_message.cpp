@@ -19,8 +19,7 @@ void ReportOwnFailure(Application& app, const wchar_t* tag) {
 
 // The heading of every message is the addressee's name.
 void ComposeCommon(Application& app, const wchar_t* buttons) {
-    app.message.MessageCaption =
-        app.user.UserNickName.empty() ? app.start.UserNameEnv : app.user.UserNickName;
+    app.message.MessageCaption = app.user.UserNickName.empty() ? app.start.UserNameEnv : app.user.UserNickName;
     app.message.MessageButtons = buttons;
 }
 
@@ -151,8 +150,7 @@ void MessageReplyCancel(Application& app) {
 void MessageReplyOK(Application& app) {
     try {
         if (app.message.MessageWillEnd) app.sys.EndProgram();
-        if (app.MessageToShow == L"MessageGetUserName" || app.MessageToShow == L"MessageChangeUserName")
-            ReadNames(app);
+        if (app.MessageToShow == L"MessageGetUserName" || app.MessageToShow == L"MessageChangeUserName") ReadNames(app);
         app.frmMessage.Unload();
         if (!app.message.MessageIsBug) {
             ClearMessage(app);

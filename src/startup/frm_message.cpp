@@ -42,7 +42,9 @@ FrmMessage::FrmMessage(Application& app)
     TextMessage.KeyPress = [this](std::int16_t& key) { TextMessageKeyPress(key); };
     ImageOK.Click = [this] { MessageReplyOK(app_); };
     ImageCancel.Click = [this] { MessageReplyCancel(app_); };
-    ImageOK.MouseDown = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) { ImageButtonMouseDown(ImageOK); };
+    ImageOK.MouseDown = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
+        ImageButtonMouseDown(ImageOK);
+    };
     ImageOK.MouseUp = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) { ImageButtonMouseUp(ImageOK); };
     ImageCancel.MouseDown = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
         ImageButtonMouseDown(ImageCancel);

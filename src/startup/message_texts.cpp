@@ -39,8 +39,8 @@ std::array<std::pair<std::wstring, std::wstring>, 6> FatalTable() {
          L"This Program runs from Removable Media, such as, Floppy or Flash Drive but not from CD/DVD-ROM." + CRLF +
              CRLF + L"Program will exit now."},
         {L"MessageProgFileNameChanged",
-         L"This program doesn't run if the name of the program file is changed. Original program file name is:" +
-             CRLF + CRLF + L"Quillstart.exe" + CRLF + CRLF +
+         L"This program doesn't run if the name of the program file is changed. Original program file name is:" + CRLF +
+             CRLF + L"Quillstart.exe" + CRLF + CRLF +
              L"If you changed the name of the file then please change it back to it's original name."},
     }};
 }
@@ -102,9 +102,8 @@ std::array<std::pair<std::wstring, ProcessMessage>, 13> OrdinaryTable(const std:
                L"Two different items in the same group (Groups : Program, File, Folder, Web Page, Email Address) "
                L"can't be listed with same name. Type a different name please.")},
         {L"MessageDriveNotReady", Plain(L"The Drive you are trying to select is not ready.")},
-        {L"MessageExePathNotFound",
-         Plain(L"Could not find the Path of the selected Program, reason undetermined." + CRLF +
-               L"It can not be added to List.")},
+        {L"MessageExePathNotFound", Plain(L"Could not find the Path of the selected Program, reason undetermined." +
+                                          CRLF + L"It can not be added to List.")},
         {L"MessageShortcutCreated", Plain(L"A shortcut of Quillstart has been created and placed on your Desktop.")},
         {L"MessageShortcutDeleted", Plain(L"Shortcut of Quillstart has been deleted from your Desktop.")},
         {L"MessageGetUserName",

@@ -17,8 +17,7 @@ struct RecordsApp : TestApp {
         app.ProgramFolder = drive + L"\\Tools\\";
         app.ProgramFile = drive + L"\\Tools\\Quillstart.exe";
         const std::wstring shared = drive + L"\\Morvane\\Morvane Apps\\Quillstart\\";
-        const std::wstring computer =
-            onRemovable ? drive + L"\\Morvane\\DESK1\\Quillstart\\" : shared;
+        const std::wstring computer = onRemovable ? drive + L"\\Morvane\\DESK1\\Quillstart\\" : shared;
         std::filesystem::create_directories(sys.HostPath(shared));
         std::filesystem::create_directories(sys.HostPath(computer));
         app.settings.FileSet = computer + L"Set.Morvane";

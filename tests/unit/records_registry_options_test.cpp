@@ -80,9 +80,7 @@ TEST(RecordsOptions, BitsAboveTheSixthAreIgnored) {
     EXPECT_EQ(Spread(64 + 2), (std::array<std::int16_t, 6>{0, 1, 0, 0, 0, 0}));
 }
 
-TEST(RecordsOptions, NegativeWordSetsNoFlag) {
-    EXPECT_EQ(Spread(-1), (std::array<std::int16_t, 6>{0, 0, 0, 0, 0, 0}));
-}
+TEST(RecordsOptions, NegativeWordSetsNoFlag) { EXPECT_EQ(Spread(-1), (std::array<std::int16_t, 6>{0, 0, 0, 0, 0, 0})); }
 
 TEST(RecordsOptions, FlagsAreClearedWhenTheirBitIsOff) {
     TestApp t;

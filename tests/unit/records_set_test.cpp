@@ -14,7 +14,8 @@ using qs::test::BugShown;
 using qs::test::RecordsApp;
 using qs::test::ShownMessages;
 
-const std::wstring RunValue = L"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run\\Morvane Quillstart";
+const std::wstring RunValue =
+    L"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run\\Morvane Quillstart";
 
 const std::string DefaultFixedFile = "10\r\n57\r\n0\r\n0\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n8\r\n2\r\n0\r\n";
 
@@ -66,7 +67,8 @@ TEST(RecordsSet, LoadingAndSavingUnchangedValuesLeavesTheFileUntouched) {
 
 TEST(RecordsSet, LoadFillsEveryWorkingVariable) {
     RecordsApp r;
-    r.sys.PutFile(r.app.settings.FileSet, "10\r\n49\r\n1200\r\n300\r\n\"D:\\Docs\\\"\r\n3\r\n-1\r\n12\r\n10\r\n4\r\n2\r\n");
+    r.sys.PutFile(r.app.settings.FileSet,
+                  "10\r\n49\r\n1200\r\n300\r\n\"D:\\Docs\\\"\r\n3\r\n-1\r\n12\r\n10\r\n4\r\n2\r\n");
     Get(r);
     const auto& s = r.app.settings;
     EXPECT_EQ(s.OptionWord, 49);
