@@ -21,6 +21,9 @@ const std::string DefaultFixedFile = "10\r\n57\r\n0\r\n0\r\n\"\"\r\n-1\r\n-1\r\n
 
 void Get(RecordsApp& r) { qs::ControlDataGet(r.app, r.app.start.OnRemovable); }
 
+qs::RecordValue Int(std::int16_t value) { return value; }
+qs::RecordValue Text(const wchar_t* value) { return std::wstring(value); }
+
 TEST(RecordsSet, FirstSaveOnAFixedDiskWritesExactlyTheDefaults) {
     RecordsApp r;
     Get(r);
@@ -104,6 +107,9 @@ TEST(RecordsSet, FileWithVersionSevenIsRewrittenAtLoadWithElevenValues) {
     EXPECT_EQ(s.OptionWord, 25);
     EXPECT_EQ(s.LastFolder, L"C:\\Data\\");
     EXPECT_EQ(r.sys.FileBytes(s.FileSet), "10\r\n25\r\n900\r\n450\r\n\"C:\\Data\\\"\r\n5\r\n6\r\n7\r\n8\r\n2\r\n0\r\n");
+    const std::array<qs::RecordValue, 11> image = {Int(10), Int(25), Int(900), Int(450), Text(L"C:\\Data\\"), Int(5),
+                                                   Int(6),  Int(7),  Int(8),   Int(2),   Int(0)};
+    for (std::size_t i = 0; i < image.size(); ++i) EXPECT_EQ(s.SetRecord[i], image[i]) << i;
     EXPECT_TRUE(ShownMessages(r).empty());
 }
 
@@ -264,6 +270,10 @@ TEST(RecordsSet, ShortFileIsABugKeepsWhatWasReadAndLeavesTheRestZero) {
     EXPECT_EQ(s.FontSizeSetting, 0);
     EXPECT_EQ(s.QuickDefaultItem, 0);
     EXPECT_EQ(s.ThemeIndex, 0);
+    EXPECT_EQ(s.SetRecord[0], Int(10));
+    EXPECT_EQ(s.SetRecord[4], Text(L"C:\\A\\"));
+    EXPECT_EQ(s.SetRecord[5], Int(4));
+    for (std::size_t i = 6; i < s.SetRecord.size(); ++i) EXPECT_FALSE(s.SetRecord[i].has_value()) << i;
     EXPECT_EQ(r.sys.FileBytes(s.FileSet), bytes);
 }
 
@@ -302,6 +312,8 @@ TEST(RecordsSet, TextInANumberFieldIsABugLikeAShortFile) {
     EXPECT_EQ(r.app.settings.MainLeft, 100);
     EXPECT_EQ(r.app.settings.MainTop, 0);
     EXPECT_EQ(r.app.settings.HDDFileLast, 0);
+    EXPECT_EQ(r.app.settings.SetRecord[2], Int(100));
+    EXPECT_FALSE(r.app.settings.SetRecord[3].has_value());
     EXPECT_EQ(r.sys.FileBytes(r.app.settings.FileSet), bytes);
 }
 
@@ -314,6 +326,9 @@ TEST(RecordsSet, FailedWriteIsABugAndTheFileKeepsWhatItHeld) {
     qs::ControlDataSave(r.app);
     EXPECT_TRUE(BugShown(r, L"Quillstart:Bug:ControlDataSave"));
     EXPECT_EQ(r.sys.FileBytes(r.app.settings.FileSet), DefaultFixedFile);
+    // The image took the new values before the write, so the next save
+    // finds nothing to write.
+    EXPECT_EQ(r.app.settings.SetRecord[3], Int(120));
 }
 
 TEST(RecordsSet, UnreadableFileIsABug) {
