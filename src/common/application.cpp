@@ -2,11 +2,12 @@
 
 namespace qs {
 
-Application::Application(System& system) : sys(system), frmMain(*this), frmChoose(*this) {}
+Application::Application(System& system) : sys(system), frmMain(*this), frmChoose(*this), frmMessage(*this) {}
 
 void Application::AttachBackend(ui::Backend* backend) {
     frmMain.SetBackend(backend);
     frmChoose.SetBackend(backend);
+    frmMessage.SetBackend(backend);
 }
 
 }  // namespace qs

@@ -7,7 +7,11 @@
 
 #include "command/tables.h"
 #include "data/family_member.h"
+#include "data/settings.h"
+#include "data/user_names.h"
 #include "platform/system.h"
+#include "startup/frm_message.h"
+#include "startup/message_state.h"
 #include "startup/program_place.h"
 #include "windows/frm_choose.h"
 #include "windows/frm_main.h"
@@ -17,13 +21,6 @@ namespace qs {
 namespace ui {
 class Backend;
 }
-
-// Which message entry point was asked to show what.
-enum class MessageEntry { Process, Bug, End };
-struct MessageRequest {
-    MessageEntry entry;
-    std::wstring key;
-};
 
 struct Application {
     explicit Application(System& system);
@@ -64,11 +61,13 @@ struct Application {
     std::vector<FamilyMember> FamilyMembers;
     std::int16_t FamilyMemberCount = -1;
 
-    // Every message the entry points were asked to show, in order.
-    std::vector<MessageRequest> messageRequests;
+    MessageState message;
+    UserNames user;
+    Settings settings;
 
     FrmMain frmMain;
     FrmChoose frmChoose;
+    FrmMessage frmMessage;
 };
 
 }  // namespace qs

@@ -36,4 +36,9 @@ void Control::SetToolTipText(std::wstring text) {
 
 void Control::SetFocus() { Notify(Property::Focus); }
 
+void Control::SetTabIndex(std::int16_t index) {
+    tabIndex_ = index;
+    Notify(Property::TabIndex);
+}
+
 }  // namespace qs::ui

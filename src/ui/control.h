@@ -23,6 +23,8 @@ enum class Property {
     Focus,
     ToolTip,
     TopMost,
+    TabIndex,
+    Value,
 };
 
 enum class ControlKind { TextBox, Label, CommandButton, Timer, ListBox, PictureBox, CheckBox };
@@ -61,6 +63,10 @@ public:
     // Asks for the keyboard focus; the peer moves it on a real window.
     void SetFocus();
 
+    // Position in the form's tab order.
+    std::int16_t TabIndex() const { return tabIndex_; }
+    void SetTabIndex(std::int16_t index);
+
     void AttachPeer(ControlPeer* peer) { peer_ = peer; }
     ControlPeer* Peer() const { return peer_; }
 
@@ -80,6 +86,7 @@ private:
     bool visible_ = true;
     bool enabled_ = true;
     std::wstring toolTip_;
+    std::int16_t tabIndex_ = 0;
     ControlPeer* peer_ = nullptr;
 };
 

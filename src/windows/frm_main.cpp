@@ -10,6 +10,7 @@ FrmMain::FrmMain(Application& app)
     : ui::Form(L"frmMain", ui::FormStyle::Borderless),
       TextMain(*this, L"TextMain"),
       CommandMainClick(*this, L"CommandMainClick"),
+      TimerOnTop(*this, L"TimerOnTop", 1000),
       app_(app) {
     SetCaption(L"Quillstart");
     Move(0, 0, MainWidthCommand, MainHeight);

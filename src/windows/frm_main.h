@@ -7,6 +7,7 @@
 #include "ui/command_button.h"
 #include "ui/form.h"
 #include "ui/text_box.h"
+#include "ui/timer.h"
 
 namespace qs {
 
@@ -23,6 +24,8 @@ public:
 
     ui::TextBox TextMain;
     ui::CommandButton CommandMainClick;
+    // Keeps the bar topmost while the option "  Always On Top" is set.
+    ui::Timer TimerOnTop;
 
     // Set by a Backspace keystroke; the next Change consumes it.
     bool BackspaceTyped = false;

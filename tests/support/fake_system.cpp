@@ -99,6 +99,7 @@ std::string FakeSystem::FileBytes(const std::wstring& windowsPath) const {
 std::int32_t FakeSystem::ShellOpen(const std::wstring& target) {
     if (shellThrows) throw SystemCallFailed("shell");
     launches.push_back({Launch::Kind::Open, target});
+    if (shellOpenResult != 0) return shellOpenResult;
     if (StartsWith(target, L"http://") || StartsWith(target, L"https://") || StartsWith(target, L"mailto:")) return 42;
     try {
         return fs::exists(HostPath(target)) ? 42 : 2;

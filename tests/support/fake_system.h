@@ -50,6 +50,8 @@ public:
     CalendarDate today{2026, 11, 15};
     // When set, every shell call throws as a broken shell would.
     bool shellThrows = false;
+    // When not 0, ShellOpen records the launch and returns this instead.
+    std::int32_t shellOpenResult = 0;
 
     std::int32_t ShellOpen(const std::wstring& target) override;
     void ShellRun(const std::wstring& commandLine) override;

@@ -1,12 +1,13 @@
 #pragma once
-// What the message entry points were asked to show during a test, in order.
+// The dialogs shown during a test, in order, as the dialog backend recorded
+// them.
 #include <vector>
 
 #include "test_app.h"
 
 namespace qs::test {
 
-inline std::vector<MessageRequest> ShownMessages(TestApp& t) { return t.app.messageRequests; }
+inline const std::vector<MessageRequest>& ShownMessages(TestApp& t) { return t.dialogs.shown; }
 
 inline bool BugShown(TestApp& t, const std::wstring& tag) {
     for (const auto& m : ShownMessages(t))

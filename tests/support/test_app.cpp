@@ -5,7 +5,9 @@
 namespace qs::test {
 
 TestApp::TestApp() : app(sys) {
+    app.AttachBackend(&dialogs);
     app.WindowsFolder = L"C:\\Windows\\";
+    app.place.UserNameEnv = sys.Environment(L"username");
     AtStartDefaultValue(app);
     app.frmMain.Load();
     ClearBox();

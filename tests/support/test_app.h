@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "common/application.h"
+#include "dialog_backend.h"
 #include "fake_system.h"
 
 namespace qs::test {
@@ -12,6 +13,8 @@ struct TestApp {
     TestApp();
     FakeSystem sys;
     Application app;
+    // Shows frmMessage: records each dialog and answers it.
+    DialogBackend dialogs{app};
 
     // Types keys into the Command box as a person would.
     void Type(const std::wstring& keys) { app.frmMain.TextMain.TypeText(keys); }

@@ -8,6 +8,14 @@
 namespace {
 
 using qs::DriveType;
+using qs::MessageEntry;
+using qs::test::ProgramEnded;
+
+// True when the last dialog shown was the fatal one for this key.
+bool EndedWith(qs::test::TestApp& t, const std::wstring& key) {
+    const auto& shown = qs::test::ShownMessages(t);
+    return !shown.empty() && shown.back().entry == MessageEntry::End && shown.back().key == key;
+}
 using qs::test::TestApp;
 
 struct StartChecks : ::testing::Test {
@@ -34,26 +42,26 @@ TEST_F(StartChecks, RunFromADrivesRootDoesNotDoubleTheBackslash) {
 TEST_F(StartChecks, RenamedProgramFileIsFatal) {
     t.sys.applicationFolder = L"C:\\Tools";
     t.sys.PutFile(L"C:\\Tools\\Other.exe");
-    EXPECT_EQ(qs::AtStartProgramFile(t.app), L"C:\\Tools\\");
+    EXPECT_THROW(qs::AtStartProgramFile(t.app), ProgramEnded);
     EXPECT_EQ(t.app.ProgramFile, L"C:\\Tools\\Quillstart.exe");
-    EXPECT_EQ(t.app.MessageToShow, L"MessageProgFileNameChanged");
+    EXPECT_TRUE(EndedWith(t, L"MessageProgFileNameChanged"));
 }
 
 TEST_F(StartChecks, SmallScreenIsFatalButTheTestIsLenient) {
     t.sys.screenWidthTwips = 866 * 15;
     t.sys.screenHeightTwips = 640 * 15;
-    qs::AtStartConfirmScreen(t.app);
-    EXPECT_EQ(t.app.MessageToShow, L"MessageSmallScreen");
+    EXPECT_THROW(qs::AtStartConfirmScreen(t.app), ProgramEnded);
+    EXPECT_TRUE(EndedWith(t, L"MessageSmallScreen"));
     TestApp low;
     low.sys.screenWidthTwips = 867 * 15;
     low.sys.screenHeightTwips = 639 * 15;
-    qs::AtStartConfirmScreen(low.app);
-    EXPECT_EQ(low.app.MessageToShow, L"MessageSmallScreen");
+    EXPECT_THROW(qs::AtStartConfirmScreen(low.app), ProgramEnded);
+    EXPECT_TRUE(EndedWith(low, L"MessageSmallScreen"));
     TestApp wide;
     wide.sys.screenWidthTwips = 867 * 15;
     wide.sys.screenHeightTwips = 640 * 15;
     qs::AtStartConfirmScreen(wide.app);
-    EXPECT_EQ(wide.app.MessageToShow, L"");
+    EXPECT_TRUE(qs::test::ShownMessages(wide).empty());
     EXPECT_EQ(wide.app.place.WorkAreaRight, 1920);
     EXPECT_EQ(wide.app.place.WorkAreaBottom, 1040);
 }
@@ -89,8 +97,8 @@ TEST_F(StartChecks, DriveTypeDecidesTheFlashDriveRun) {
 
 TEST_F(StartChecks, FailingDriveServiceMeansTheRuntimeIsMissing) {
     std::wstring missing = L"Q:\\";
-    EXPECT_EQ(qs::AtStartDriveType(t.app, missing), L"");
-    EXPECT_EQ(t.app.MessageToShow, L"MessageNeedSriptRuntime");
+    EXPECT_THROW(qs::AtStartDriveType(t.app, missing), ProgramEnded);
+    EXPECT_TRUE(EndedWith(t, L"MessageNeedSriptRuntime"));
 }
 
 TEST_F(StartChecks, FixedDiskRunFromAnotherDriveKeepsDataOnTheWindowsDrive) {

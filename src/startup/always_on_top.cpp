@@ -1,0 +1,17 @@
+#include "startup/always_on_top.h"
+
+#include "common/application.h"
+#include "startup/active_message.h"
+
+namespace qs {
+
+void ActionAlwaysOnTopOff(Application& app) {
+    try {
+        app.frmMain.SetTopMost(false);
+    } catch (const std::exception&) {
+        app.MessageToShow = L"Quillstart:Bug:ActionAlwaysOnTopOff";
+        MessageBug(app);
+    }
+}
+
+}  // namespace qs

@@ -1,0 +1,140 @@
+#include "startup/frm_message.h"
+
+#include "common/application.h"
+#include "startup/active_message.h"
+
+namespace qs {
+
+namespace {
+
+constexpr std::int16_t KeyEnter = 13;
+constexpr std::int16_t KeyBackspace = 8;
+
+const wchar_t* const NameCaptions[3] = {L"First Name", L"Last Name", L"Nick Name"};
+
+bool IsLetter(std::int16_t key) { return (key >= L'A' && key <= L'Z') || (key >= L'a' && key <= L'z'); }
+
+std::wstring OrEmpty(const std::wstring& name) { return name.empty() ? L"Empty" : name; }
+
+}  // namespace
+
+FrmMessage::FrmMessage(Application& app)
+    : ui::Form(L"frmMessage", ui::FormStyle::Dialog),
+      LabelMsgFormCaption(*this, L"LabelMsgFormCaption"),
+      LabelHead(*this, L"LabelHead"),
+      TextMessage(*this, L"TextMessage", true),
+      CheckDoNotShow(*this, L"CheckDoNotShow", L"Do not show this message again."),
+      ImageOK(*this, L"ImageOK"),
+      LabelOK(*this, L"LabelOK"),
+      ImageCancel(*this, L"ImageCancel"),
+      LabelCancel(*this, L"LabelCancel"),
+      app_(app) {
+    for (std::size_t i = 0; i < TextName.size(); ++i) {
+        LabelName[i] = std::make_unique<ui::Label>(*this, L"LabelName", NameCaptions[i]);
+        TextName[i] = std::make_unique<ui::TextBox>(*this, L"TextName");
+        TextName[i]->KeyPress = [this](std::int16_t& key) { TextNameKeyPress(key); };
+        TextName[i]->Change = [this] { TextNameChange(); };
+    }
+    SetCaption(L"Quillstart");
+    RestoreDesign();
+
+    LoadEvent = [this] { FormLoad(); };
+    TextMessage.KeyPress = [this](std::int16_t& key) { TextMessageKeyPress(key); };
+    ImageOK.Click = [this] { MessageReplyOK(app_); };
+    ImageCancel.Click = [this] { MessageReplyCancel(app_); };
+    ImageOK.MouseDown = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
+        ImageButtonMouseDown(ImageOK);
+    };
+    ImageOK.MouseUp = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) { ImageButtonMouseUp(ImageOK); };
+    ImageCancel.MouseDown = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
+        ImageButtonMouseDown(ImageCancel);
+    };
+    ImageCancel.MouseUp = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
+        ImageButtonMouseUp(ImageCancel);
+    };
+}
+
+void FrmMessage::RestoreDesign() {
+    restoringDesign_ = true;
+    // The title strip across the top, the heading below it, the name row,
+    // the body filling the lower part, and the two buttons at the bottom.
+    LabelMsgFormCaption.Move(0, 0, 5280, 330);
+    LabelMsgFormCaption.SetCaption(L"");
+    LabelHead.Move(240, 450, 4800, 420);
+    LabelHead.SetCaption(L"");
+    for (std::size_t i = 0; i < TextName.size(); ++i) {
+        const auto left = static_cast<std::int32_t>(240 + i * 1620);
+        LabelName[i]->Move(left, 990, 1500, 255);
+        LabelName[i]->SetCaption(NameCaptions[i]);
+        LabelName[i]->SetVisible(false);
+        TextName[i]->Move(left, 1260, 1500, 330);
+        TextName[i]->SetText(L"");
+        TextName[i]->SetVisible(false);
+        TextName[i]->SetTabIndex(static_cast<std::int16_t>(i + 1));
+    }
+    TextMessage.Move(240, 1740, 4800, 4920);
+    TextMessage.SetText(L"");
+    TextMessage.SetLocked(true);
+    TextMessage.SetTabIndex(0);
+    CheckDoNotShow.Move(240, 6780, 4800, 300);
+    CheckDoNotShow.SetValue(0);
+    CheckDoNotShow.SetVisible(false);
+    ImageOK.Move(960, 7200, 480, 480);
+    ImageOK.SetPicture(L"");
+    ImageOK.SetVisible(true);
+    LabelOK.Move(1500, 7320, 900, 255);
+    LabelOK.SetCaption(L"OK");
+    ImageCancel.Move(2880, 7200, 480, 480);
+    ImageCancel.SetPicture(L"");
+    ImageCancel.SetVisible(true);
+    LabelCancel.Move(3420, 7320, 1000, 255);
+    LabelCancel.SetCaption(L"Cancel");
+    restoringDesign_ = false;
+}
+
+void FrmMessage::FormLoad() {
+    RestoreDesign();
+    // Centred on the screen.
+    const std::int32_t left = (app_.sys.ScreenWidthTwips() - MessageFormWidth) / 2;
+    const std::int32_t top = (app_.sys.ScreenHeightTwips() - MessageFormHeight) / 2;
+    Move(left, top, MessageFormWidth, MessageFormHeight);
+}
+
+void FrmMessage::TextMessageKeyPress(std::int16_t& key) { key = 0; }
+
+void FrmMessage::TextNameKeyPress(std::int16_t& key) {
+    if (key == KeyEnter) {
+        key = 0;
+        if (ImageOK.Visible()) ImageOK.UserClick();
+        return;
+    }
+    if (key == KeyBackspace) return;
+    if (!IsLetter(key)) key = 0;
+}
+
+void FrmMessage::TextNameChange() {
+    if (restoringDesign_) return;
+    const std::wstring& first = TextName[0]->Text();
+    const std::wstring& last = TextName[1]->Text();
+    const std::wstring& nick = TextName[2]->Text();
+    ImageOK.SetVisible(!(first + last + nick).empty());
+    TextMessage.SetText(L"First Name: " + OrEmpty(first) + L"\r\n" + L"Last Name: " + OrEmpty(last) + L"\r\n" +
+                        L"Nick Name : " + OrEmpty(nick));
+    ImageOK.SetPicture(ReplyButtonPicture(ImageOK.Visible()));
+    ImageCancel.SetPicture(ReplyButtonPicture(ImageCancel.Visible()));
+}
+
+std::wstring FrmMessage::ReplyButtonPicture(bool visible) const {
+    if (app_.place.StartingUp) return visible ? L"frmBut.ImageMU(2)" : L"frmBut.ImageMZ(0)";
+    return visible ? L"ImageZeroSet(2)" : L"ImageZeroBlank";
+}
+
+void FrmMessage::ImageButtonMouseDown(ui::PictureBox& image) {
+    image.SetPicture(app_.place.StartingUp ? L"frmBut.ImageMD(1)" : L"ImageZeroOver");
+}
+
+void FrmMessage::ImageButtonMouseUp(ui::PictureBox& image) {
+    image.SetPicture(app_.place.StartingUp ? L"frmBut.ImageMD(1)" : L"ImageZeroSet(2)");
+}
+
+}  // namespace qs
