@@ -1,6 +1,7 @@
 #include "startup/desktop.h"
 
 #include "common/application.h"
+#include "data/registry_value.h"
 #include "startup/active_message.h"
 
 namespace qs {
@@ -52,6 +53,21 @@ void StartShortcutDelete(Application& app) {
     } catch (const std::exception&) {
         ReportBug(app, L"Quillstart:Bug:StartShortcutDelete");
     }
+}
+
+void AutostartRegister(Application& app) {
+    std::wstring key = AutostartValueName;
+    std::wstring none;
+    std::int16_t action = RegistryRead;
+    const std::wstring current = RegistryValue(app, action, key, none);
+    if (current == app.ProgramFile) return;
+    if (!current.empty()) {
+        action = RegistryDelete;
+        RegistryValue(app, action, key, none);
+    }
+    action = RegistryWrite;
+    std::wstring value = app.ProgramFile;
+    RegistryValue(app, action, key, value);
 }
 
 }  // namespace qs

@@ -9,4 +9,7 @@ void StartScreenSaver(Application& app);
 void StartShortcutCreate(Application& app);
 void StartShortcutDelete(Application& app);
 
+// Brings the autostart value up to date with the program's present file.
+void AutostartRegister(Application& app);
+
 }  // namespace qs
