@@ -7,8 +7,12 @@
 
 #include "command/tables.h"
 #include "data/family_member.h"
+#include "data/family_state.h"
+#include "data/list_counters.h"
 #include "platform/system.h"
+#include "startup/paths.h"
 #include "windows/frm_choose.h"
+#include "windows/frm_hid.h"
 #include "windows/frm_main.h"
 
 namespace qs {
@@ -60,10 +64,17 @@ struct Application {
     // The maker's other programs; FamilyMemberCount is the last index.
     std::vector<FamilyMember> FamilyMembers;
     std::int16_t FamilyMemberCount = -1;
+    FamilyState family;
+
+    // Where the program runs and where its files lie.
+    ProgramPlace place;
+    // How many records each list file holds.
+    ListCounters counters;
 
     // Every message the entry points were asked to show, in order.
     std::vector<MessageRequest> messageRequests;
 
+    FrmHid frmHid;
     FrmMain frmMain;
     FrmChoose frmChoose;
 };
