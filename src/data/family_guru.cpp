@@ -78,6 +78,8 @@ std::int16_t InFamilyAddMe(Application& app, std::int16_t& lastIndex) {
         return self;
     } catch (const std::exception&) {
         ReportBug(app, L"InFamilyAddMe");
+        // The routine then answers 0: position 0 is kept in existence.
+        if (app.FamilyMembers.empty()) app.FamilyMembers.resize(1);
         return 0;
     }
 }

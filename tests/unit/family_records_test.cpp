@@ -143,6 +143,19 @@ TEST_F(FamilySave, JoiningBehindTheLastPossiblePositionOverflows) {
     EXPECT_TRUE(BugShown(t, L"Quillstart:Bug:InFamilyAddMe"));
 }
 
+TEST(FamilyJoin, GuruLastBelowMinusOneGivesNoPositionToJoinAtAndShowsTheBug) {
+    TestApp t;
+    SetUpFixedDiskRun(t);
+    t.app.place.StartingUp = true;
+    t.sys.PutFile(t.app.place.FileKinfold, Kinfold(-752));
+    EXPECT_TRUE(FamilyStart(t.app));
+    EXPECT_TRUE(BugShown(t, L"Quillstart:Bug:InFamilyAddMe"));
+    EXPECT_EQ(t.app.FamilyMemberCount, 0);
+    ASSERT_EQ(t.app.FamilyMembers.size(), 1u);
+    // Position 0 is empty and written so; the next start joins there.
+    EXPECT_EQ(t.sys.FileBytes(t.app.place.FileGuru), "\"\",\"\",0,\"\"\r\n");
+}
+
 // A system whose file tests fail, as a broken scripting runtime would.
 class BrokenFileSystem : public FakeSystem {
 public:
