@@ -71,6 +71,7 @@ std::int16_t FamABGetGuruInfo(Application& app, std::int16_t& lastIndex) {
 std::int16_t InFamilyAddMe(Application& app, std::int16_t& lastIndex) {
     try {
         const std::int16_t self = ToInt16(static_cast<long long>(lastIndex) + 1);
+        if (self < 0) throw SubscriptOutOfRange();
         app.family.SelfIndex = self;
         app.FamilyMembers.resize(static_cast<std::size_t>(self) + 1);
         app.FamilyMembers[static_cast<std::size_t>(self)] =

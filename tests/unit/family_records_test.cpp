@@ -156,6 +156,17 @@ TEST(FamilyJoin, GuruLastBelowMinusOneGivesNoPositionToJoinAtAndShowsTheBug) {
     EXPECT_EQ(t.sys.FileBytes(t.app.place.FileGuru), "\"\",\"\",0,\"\"\r\n");
 }
 
+TEST(FamilyJoin, GuruLastOfMinusTwoGivesNoPositionToJoinAtAndShowsTheBug) {
+    TestApp t;
+    SetUpFixedDiskRun(t);
+    t.app.place.StartingUp = true;
+    t.sys.PutFile(t.app.place.FileKinfold, Kinfold(-2));
+    EXPECT_TRUE(FamilyStart(t.app));
+    EXPECT_TRUE(BugShown(t, L"Quillstart:Bug:InFamilyAddMe"));
+    EXPECT_EQ(t.app.FamilyMemberCount, 0);
+    EXPECT_EQ(t.app.FamilyMembers.size(), 1u);
+}
+
 // A system whose file tests fail, as a broken scripting runtime would.
 class BrokenFileSystem : public FakeSystem {
 public:
