@@ -45,8 +45,14 @@ void BlockList::Insert(std::int32_t index, const std::wstring& item) {
     std::size_t block = 0;
     std::int32_t offset = 0;
     if (index == size_) {
-        // Appending goes to the end of the last block.
+        // Appending goes to the end of the last block, or opens a new one
+        // when that is full, so that a list loaded in order fills its blocks.
         block = blocks_.size() - 1;
+        if (blocks_[block].size() >= MaxBlock) {
+            blocks_.emplace_back();
+            starts_.push_back(size_);
+            ++block;
+        }
         offset = index - starts_[block];
     } else {
         block = BlockOf(index, offset);

@@ -9,6 +9,9 @@ ListBox::ListBox(Form& owner, std::wstring name, bool sorted)
     : Control(owner, ControlKind::ListBox, std::move(name)), sorted_(sorted) {}
 
 std::int32_t ListBox::SortedPlace(const std::wstring& item) const {
+    // Items mostly come in sorted order, from files written sorted.
+    const std::int32_t count = ListCount();
+    if (count == 0 || CompareNoCase(item, items_.At(count - 1)) >= 0) return count;
     // Binary search for the first item that sorts after the new one.
     std::int32_t low = 0;
     std::int32_t high = ListCount();

@@ -8,46 +8,46 @@ namespace qs::test {
 
 namespace {
 
-void MakeDataFolders(TestApp& t) {
-    AssignDataFilePaths(t.app.place);
-    const DataFolders f = DataFoldersFor(t.app.place);
+void MakeDataFolders(FakeSystem& sys, Application& app) {
+    AssignDataFilePaths(app.place);
+    const DataFolders f = DataFoldersFor(app.place);
     for (const auto* folder : {&f.maker, &f.family, &f.applications, &f.sharedData, &f.computer, &f.computerData})
-        std::filesystem::create_directories(t.sys.HostPath(*folder));
+        std::filesystem::create_directories(sys.HostPath(*folder));
 }
 
-void PlaceProgram(TestApp& t, const std::wstring& folder) {
-    t.app.ProgramFolder = folder;
-    t.app.ProgramFile = folder + L"Quillstart.exe";
-    t.sys.applicationFolder = folder;
-    t.sys.PutFile(t.app.ProgramFile, "exe");
+void PlaceProgram(FakeSystem& sys, Application& app, const std::wstring& folder) {
+    app.ProgramFolder = folder;
+    app.ProgramFile = folder + L"Quillstart.exe";
+    sys.applicationFolder = folder;
+    sys.PutFile(app.ProgramFile, "exe");
 }
 
 }  // namespace
 
-void SetUpFixedDiskRun(TestApp& t, const std::wstring& programFolder) {
-    ProgramPlace& p = t.app.place;
-    PlaceProgram(t, programFolder);
+void SetUpFixedDiskRun(FakeSystem& sys, Application& app, const std::wstring& programFolder) {
+    ProgramPlace& p = app.place;
+    PlaceProgram(sys, app, programFolder);
     p.OnRemovable = false;
     p.ProgramDriveLetter = programFolder.substr(0, 1);
     p.ProgramDriveLetterUpper = p.ProgramDriveLetter;
     p.WindowsRoot = L"C:\\";
     p.ProgramRoot = programFolder.substr(0, 3);
     p.ComputerName = L"DESK1";
-    MakeDataFolders(t);
+    MakeDataFolders(sys, app);
 }
 
-void SetUpFlashRun(TestApp& t, wchar_t letter, const std::wstring& computer) {
-    t.sys.MapDrive(letter, DriveType::Removable);
-    ProgramPlace& p = t.app.place;
+void SetUpFlashRun(FakeSystem& sys, Application& app, wchar_t letter, const std::wstring& computer) {
+    sys.MapDrive(letter, DriveType::Removable);
+    ProgramPlace& p = app.place;
     const std::wstring root = std::wstring(1, letter) + L":\\";
-    PlaceProgram(t, root + L"Quillstart\\");
+    PlaceProgram(sys, app, root + L"Quillstart\\");
     p.OnRemovable = true;
     p.ProgramDriveLetter = std::wstring(1, letter);
     p.ProgramDriveLetterUpper = std::wstring(1, letter);
     p.WindowsRoot = L"C:\\";
     p.ProgramRoot = root;
     p.ComputerName = computer;
-    MakeDataFolders(t);
+    MakeDataFolders(sys, app);
 }
 
 std::string ListFileBytes(const std::vector<std::pair<std::string, std::string>>& records) {

@@ -11,10 +11,17 @@
 namespace qs::test {
 
 // The program in C:\Tools\, its data under C:\Morvane\.
-void SetUpFixedDiskRun(TestApp& t, const std::wstring& programFolder = L"C:\\Tools\\");
+void SetUpFixedDiskRun(FakeSystem& sys, Application& app, const std::wstring& programFolder = L"C:\\Tools\\");
 // The program in <letter>:\Quillstart\ on a flash drive, its data on the
 // drive, this computer's lists in a folder named after `computer`.
-void SetUpFlashRun(TestApp& t, wchar_t letter, const std::wstring& computer = L"DESK1");
+void SetUpFlashRun(FakeSystem& sys, Application& app, wchar_t letter, const std::wstring& computer = L"DESK1");
+
+inline void SetUpFixedDiskRun(TestApp& t, const std::wstring& programFolder = L"C:\\Tools\\") {
+    SetUpFixedDiskRun(t.sys, t.app, programFolder);
+}
+inline void SetUpFlashRun(TestApp& t, wchar_t letter, const std::wstring& computer = L"DESK1") {
+    SetUpFlashRun(t.sys, t.app, letter, computer);
+}
 
 // A list file's bytes: one quoted name and quoted target per CR LF line.
 std::string ListFileBytes(const std::vector<std::pair<std::string, std::string>>& records);
