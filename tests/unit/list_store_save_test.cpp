@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "data/launch_list.h"
 #include "data_setup.h"
 #include "shown_messages.h"
@@ -167,6 +169,20 @@ TEST_F(ListSave, FlashSideSaveWritesHashOnlyForTheExactProgramDriveLetter) {
     LaunchListSaveAtExit(t.app, {});
     EXPECT_EQ(t.sys.FileBytes(t.app.place.FileListUsbFile), "\"a\",\"#:\\a.txt\"\r\n\"b\",\"e:\\b.txt\"\r\n");
     EXPECT_EQ(t.app.counters.USBFileLast, 1);
+}
+
+TEST_F(ListSave, SavingPastThirtyTwoThousandSevenHundredSixtySevenOverflowsAfterWritingEveryRecord) {
+    auto& names = MergedNames(t, 3);
+    auto& paths = MergedPaths(t, 3);
+    for (int i = 0; i <= 32767; ++i) {
+        names.AddItem(L"n" + std::to_wstring(100000 + i));
+        paths.AddItem(L"m@x");
+    }
+    LaunchListSaveAtExit(t.app, {});
+    EXPECT_EQ(t.app.counters.EmailLast, 32767);
+    EXPECT_TRUE(BugShown(t, L"Quillstart:Bug:ActionLaunchListSave"));
+    const std::string bytes = t.sys.FileBytes(t.app.place.FileListMail);
+    EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), 32768);
 }
 
 TEST_F(ListSave, ALoadedListSavesBackToTheSameBytes) {
