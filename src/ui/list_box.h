@@ -29,6 +29,7 @@ public:
     const std::wstring& List(std::int32_t index) const;
     void SetList(std::int32_t index, const std::wstring& item);
     std::int32_t ListCount() const { return items_.Size(); }
+    // All entries in order; read it again after the list changes.
     const std::vector<std::wstring>& Items() const { return items_.Flat(); }
 
     // Position of the first entry, from the top, exactly equal to `item`
