@@ -1,7 +1,5 @@
 #include "command/auto_fill.h"
 
-#include <algorithm>
-
 #include "command/find_predefined.h"
 #include "common/application.h"
 #include "common/failure.h"
@@ -41,12 +39,9 @@ std::int32_t FirstNameWithPrefix(const ui::ListBox& combo, const std::wstring& l
     // In a list sorted by the case rule every name that begins with the typed
     // text follows every name that sorts before it, so the first name not
     // below the typed text is the first match of a scan from the top.
-    const auto& items = combo.Items();
-    const auto end = items.begin() + (lastIndex + 1);
-    const auto at = std::lower_bound(items.begin(), end, lowerTyped,
-                                     [](const std::wstring& a, const std::wstring& b) { return CompareNoCase(a, b) < 0; });
-    if (at == end || !HasPrefix(*at, lowerTyped)) return -1;
-    return static_cast<std::int32_t>(at - items.begin());
+    const std::int32_t at = combo.FirstNotBelow(lowerTyped, lastIndex + 1);
+    if (at > lastIndex || !HasPrefix(combo.List(at), lowerTyped)) return -1;
+    return at;
 }
 
 void ActionFindLaunchName(Application& app, std::wstring& code, std::wstring& typed, const ui::ListBox& combo,

@@ -5,6 +5,7 @@ namespace qs {
 Application::Application(System& system) : sys(system), frmMain(*this), frmChoose(*this), frmMessage(*this) {}
 
 void Application::AttachBackend(ui::Backend* backend) {
+    frmHid.SetBackend(backend);
     frmMain.SetBackend(backend);
     frmChoose.SetBackend(backend);
     frmMessage.SetBackend(backend);

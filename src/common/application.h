@@ -7,13 +7,14 @@
 
 #include "command/tables.h"
 #include "data/family_member.h"
+#include "data/family_state.h"
 #include "data/settings.h"
-#include "data/user_names.h"
 #include "platform/system.h"
 #include "startup/frm_message.h"
 #include "startup/message_state.h"
-#include "startup/program_place.h"
+#include "startup/paths.h"
 #include "windows/frm_choose.h"
+#include "windows/frm_hid.h"
 #include "windows/frm_main.h"
 
 namespace qs {
@@ -47,8 +48,8 @@ struct Application {
     std::wstring WindowsFolder;
     std::wstring ProgramFile;
     std::wstring ProgramFolder;
+    // Where the program runs and where its files lie.
     ProgramPlace place;
-    DataFiles files;
 
     // The bar's geometry.
     std::int32_t MainWidth = MainWidthCommand;
@@ -60,11 +61,12 @@ struct Application {
     // The maker's other programs; FamilyMemberCount is the last index.
     std::vector<FamilyMember> FamilyMembers;
     std::int16_t FamilyMemberCount = -1;
+    FamilyState family;
 
     MessageState message;
-    UserNames user;
     Settings settings;
 
+    FrmHid frmHid;
     FrmMain frmMain;
     FrmChoose frmChoose;
     FrmMessage frmMessage;

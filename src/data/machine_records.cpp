@@ -36,7 +36,7 @@ struct CounterRecord {
 
 CounterRecord ComData(Application& app) {
     Settings& s = app.settings;
-    return {s.ComDataRecord.data(), s.ComDataRecord.size(), {&s.EmailLast, &s.WebLast}, ComDataVersion, app.files.FileComData};
+    return {s.ComDataRecord.data(), s.ComDataRecord.size(), {&s.EmailLast, &s.WebLast}, ComDataVersion, app.place.FileComData};
 }
 
 CounterRecord USBData(Application& app) {
@@ -45,7 +45,7 @@ CounterRecord USBData(Application& app) {
             s.USBDataRecord.size(),
             {&s.USBFileLast, &s.USBFolderLast, &s.USBProgramLast},
             USBDataVersion,
-            app.files.FileUsbData};
+            app.place.FileUsbData};
 }
 
 void ReportBug(Application& app, const wchar_t* tag) {
@@ -99,7 +99,7 @@ void SaveCounters(Application& app, const CounterRecord& record) {
 void ControlComDataGet(Application& app) {
     Settings& s = app.settings;
     try {
-        if (!app.sys.FileExists(app.files.FileComData)) {
+        if (!app.sys.FileExists(app.place.FileComData)) {
             s.EmailLast = -1;
             s.WebLast = -1;
             return;
@@ -130,7 +130,7 @@ void ControlComDataSave(Application& app) {
 void ControlUSBDataGet(Application& app) {
     Settings& s = app.settings;
     try {
-        if (!app.sys.FileExists(app.files.FileUsbData)) {
+        if (!app.sys.FileExists(app.place.FileUsbData)) {
             s.USBFileLast = -1;
             s.USBFolderLast = -1;
             s.USBProgramLast = -1;

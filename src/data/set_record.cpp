@@ -69,11 +69,11 @@ void ReportBug(Application& app, const wchar_t* tag) {
 void ControlDataGet(Application& app, bool& onRemovable) {
     Settings& s = app.settings;
     try {
-        if (!app.sys.FileExists(app.files.FileSet)) {
+        if (!app.sys.FileExists(app.place.FileSet)) {
             ControlDataCreateNow(app, onRemovable);
             return;
         }
-        RecordReader reader(ReadDataFile(app, app.files.FileSet));
+        RecordReader reader(ReadDataFile(app, app.place.FileSet));
         std::int16_t version = -1;
         for (std::size_t i = 0; i <= SetRecordVersion; ++i) {
             const RecordValue value =
@@ -142,7 +142,7 @@ void ControlDataSave(Application& app) {
             }
             writer.EndLine();
         }
-        WriteDataFile(app, app.files.FileSet, writer.Text());
+        WriteDataFile(app, app.place.FileSet, writer.Text());
     } catch (const std::exception&) {
         ReportBug(app, L"Quillstart:Bug:ControlDataSave");
     }

@@ -19,14 +19,14 @@ void ReportOwnFailure(Application& app, const wchar_t* tag) {
 
 // The heading of every message is the addressee's name.
 void ComposeCommon(Application& app, const wchar_t* buttons) {
-    app.message.MessageCaption = app.user.UserNickName.empty() ? app.place.UserNameEnv : app.user.UserNickName;
+    app.message.MessageCaption = app.family.UserNickName.empty() ? app.place.UserNameEnv : app.family.UserNickName;
     app.message.MessageButtons = buttons;
 }
 
 void ReadNames(Application& app) {
-    app.user.UserFirstName = app.frmMessage.TextName[0]->Text();
-    app.user.UserLastName = app.frmMessage.TextName[1]->Text();
-    app.user.UserNickName = app.frmMessage.TextName[2]->Text();
+    app.family.UserFirstName = app.frmMessage.TextName[0]->Text();
+    app.family.UserLastName = app.frmMessage.TextName[1]->Text();
+    app.family.UserNickName = app.frmMessage.TextName[2]->Text();
 }
 
 // Forgets the message that was shown and lets the bar be topmost again,
@@ -52,11 +52,11 @@ void ShowNameBoxes(Application& app) {
     }
     if (app.MessageToShow != L"MessageChangeUserName") return;
     // Each filling fires the boxes' Change, which shows the preview.
-    form.TextName[0]->SetText(app.user.UserFirstName);
-    form.TextName[1]->SetText(app.user.UserLastName);
-    form.TextName[2]->SetText(app.user.UserNickName);
-    if (!app.user.UserFirstName.empty())
-        form.TextName[0]->SetSelStart(static_cast<std::int32_t>(app.user.UserFirstName.size()));
+    form.TextName[0]->SetText(app.family.UserFirstName);
+    form.TextName[1]->SetText(app.family.UserLastName);
+    form.TextName[2]->SetText(app.family.UserNickName);
+    if (!app.family.UserFirstName.empty())
+        form.TextName[0]->SetSelStart(static_cast<std::int32_t>(app.family.UserFirstName.size()));
 }
 
 }  // namespace

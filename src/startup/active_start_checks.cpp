@@ -108,33 +108,20 @@ std::wstring AtStartDriveType(Application& app, std::wstring& root) {
 
 void AtStartSetFileFolder(Application& app, bool& onRemovable) {
     try {
-        auto& f = app.files;
-        const std::wstring base = onRemovable ? app.place.ProgramRoot : app.place.WindowsRoot;
-        const std::wstring maker = base + L"Morvane\\";
-        EnsureFolder(app, maker);
-        const std::wstring family = maker + L"Kinfold\\";
-        EnsureFolder(app, family);
-        f.FileGuru = family + L"Guru.Morvane";
-        f.FileKinfold = family + L"Kinfold.Morvane";
-        const std::wstring apps = maker + L"Morvane Apps\\";
-        EnsureFolder(app, apps);
-        const std::wstring shared = apps + L"Quillstart\\";
-        EnsureFolder(app, shared);
-        f.FileComData = shared + L"COMData.Morvane";
-        f.FileListMail = shared + L"ListMail.Morvane";
-        f.FileListWeb = shared + L"ListWeb.Morvane";
-        f.FileUsbData = shared + L"USBData.Morvane";
-        f.FileListUsbFile = shared + L"ListUSBFile.Morvane";
-        f.FileListUsbFold = shared + L"ListUSBFold.Morvane";
-        f.FileListUsbProg = shared + L"ListUSBProg.Morvane";
-        const std::wstring computer = onRemovable ? maker + app.place.ComputerName + L"\\" : apps;
-        EnsureFolder(app, computer);
-        const std::wstring computerData = computer + L"Quillstart\\";
-        EnsureFolder(app, computerData);
-        f.FileSet = computerData + L"Set.Morvane";
-        f.FileListFile = computerData + L"ListFile.Morvane";
-        f.FileListFold = computerData + L"ListFold.Morvane";
-        f.FileListProg = computerData + L"ListProg.Morvane";
+        ProgramPlace decided = app.place;
+        decided.OnRemovable = onRemovable;
+        const DataFolders f = DataFoldersFor(decided);
+        // Each folder's parent is made before it, so only the last level of
+        // a path is ever created; a file's path is set once its folder stands.
+        EnsureFolder(app, f.maker);
+        EnsureFolder(app, f.family);
+        AssignFamilyFilePaths(app.place, f);
+        EnsureFolder(app, f.applications);
+        EnsureFolder(app, f.sharedData);
+        AssignSharedFilePaths(app.place, f);
+        EnsureFolder(app, f.computer);
+        EnsureFolder(app, f.computerData);
+        AssignComputerFilePaths(app.place, f);
     } catch (const std::exception&) {
         ReportBug(app, L"AtStartSetFileFolder");
     }

@@ -1,7 +1,5 @@
 #include "ui/list_box.h"
 
-#include <algorithm>
-
 #include "common/failure.h"
 #include "common/text_case.h"
 
@@ -11,31 +9,76 @@ ListBox::ListBox(Form& owner, std::wstring name, bool sorted)
     : Control(owner, ControlKind::ListBox, std::move(name)), sorted_(sorted) {}
 
 std::int32_t ListBox::SortedPlace(const std::wstring& item) const {
+    // Items mostly come in sorted order, from files written sorted.
+    const std::int32_t count = ListCount();
+    if (count == 0 || CompareNoCase(item, items_.At(count - 1)) >= 0) return count;
     // Binary search for the first item that sorts after the new one.
-    const auto place = std::upper_bound(items_.begin(), items_.end(), item,
-                                        [](const std::wstring& a, const std::wstring& b) { return CompareNoCase(a, b) < 0; });
-    return static_cast<std::int32_t>(place - items_.begin());
+    std::int32_t low = 0;
+    std::int32_t high = ListCount();
+    while (low < high) {
+        const std::int32_t mid = low + (high - low) / 2;
+        if (CompareNoCase(item, items_.At(mid)) < 0) {
+            high = mid;
+        } else {
+            low = mid + 1;
+        }
+    }
+    return low;
+}
+
+std::int32_t ListBox::FirstNotBelow(const std::wstring& item, std::int32_t end) const {
+    std::int32_t low = 0;
+    std::int32_t high = end;
+    while (low < high) {
+        const std::int32_t mid = low + (high - low) / 2;
+        if (CompareNoCase(items_.At(mid), item) < 0) {
+            low = mid + 1;
+        } else {
+            high = mid;
+        }
+    }
+    return low;
+}
+
+std::int32_t ListBox::FindExact(const std::wstring& item) const {
+    if (!sorted_) {
+        for (std::int32_t i = 0; i < ListCount(); ++i)
+            if (items_.At(i) == item) return i;
+        return -1;
+    }
+    // Entries equal to the item by the case rule stand together, and an exact
+    // match is one of them, so the first exact match of a scan from the top
+    // is the first exact match within that run.
+    for (std::int32_t i = FirstNotBelow(item, ListCount()); i < ListCount(); ++i) {
+        const std::wstring& entry = items_.At(i);
+        if (entry == item) return i;
+        if (CompareNoCase(entry, item) != 0) break;
+    }
+    return -1;
+}
+
+void ListBox::Inserted(std::int32_t index) {
+    if (listIndex_ >= index) ++listIndex_;
+    Notify(Property::Items);
 }
 
 std::int32_t ListBox::AddItem(const std::wstring& item) {
     const std::int32_t index = sorted_ ? SortedPlace(item) : ListCount();
-    items_.insert(items_.begin() + index, item);
-    if (listIndex_ >= index) ++listIndex_;
-    Notify(Property::Items);
+    items_.Insert(index, item);
+    Inserted(index);
     return index;
 }
 
 std::int32_t ListBox::AddItem(const std::wstring& item, std::int32_t index) {
     if (index < 0 || index > ListCount()) throw SubscriptOutOfRange();
-    items_.insert(items_.begin() + index, item);
-    if (listIndex_ >= index) ++listIndex_;
-    Notify(Property::Items);
+    items_.Insert(index, item);
+    Inserted(index);
     return index;
 }
 
 void ListBox::RemoveItem(std::int32_t index) {
     if (index < 0 || index >= ListCount()) throw SubscriptOutOfRange();
-    items_.erase(items_.begin() + index);
+    items_.Erase(index);
     if (listIndex_ == index) {
         listIndex_ = -1;
     } else if (listIndex_ > index) {
@@ -45,19 +88,19 @@ void ListBox::RemoveItem(std::int32_t index) {
 }
 
 void ListBox::Clear() {
-    items_.clear();
+    items_.Clear();
     listIndex_ = -1;
     Notify(Property::Items);
 }
 
 const std::wstring& ListBox::List(std::int32_t index) const {
     if (index < 0 || index >= ListCount()) throw SubscriptOutOfRange();
-    return items_[static_cast<std::size_t>(index)];
+    return items_.At(index);
 }
 
 void ListBox::SetList(std::int32_t index, const std::wstring& item) {
     if (index < 0 || index >= ListCount()) throw SubscriptOutOfRange();
-    items_[static_cast<std::size_t>(index)] = item;
+    items_.Set(index, item);
     Notify(Property::Items);
 }
 

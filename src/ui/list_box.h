@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "ui/block_list.h"
 #include "ui/control.h"
 
 namespace qs::ui {
@@ -27,8 +28,16 @@ public:
     // Throws SubscriptOutOfRange outside 0..ListCount-1.
     const std::wstring& List(std::int32_t index) const;
     void SetList(std::int32_t index, const std::wstring& item);
-    std::int32_t ListCount() const { return static_cast<std::int32_t>(items_.size()); }
-    const std::vector<std::wstring>& Items() const { return items_; }
+    std::int32_t ListCount() const { return items_.Size(); }
+    // All entries in order; read it again after the list changes.
+    const std::vector<std::wstring>& Items() const { return items_.Flat(); }
+
+    // Position of the first entry, from the top, exactly equal to `item`
+    // (case-sensitive); -1 when there is none.
+    std::int32_t FindExact(const std::wstring& item) const;
+    // In a sorted list: the first position among 0..end-1 whose entry does not
+    // sort before `item` by the case rule; `end` when there is none.
+    std::int32_t FirstNotBelow(const std::wstring& item, std::int32_t end) const;
 
     // -1 when nothing is selected; setting it fires Click.
     std::int32_t ListIndex() const { return listIndex_; }
@@ -41,8 +50,9 @@ public:
 
 private:
     std::int32_t SortedPlace(const std::wstring& item) const;
+    void Inserted(std::int32_t index);
 
-    std::vector<std::wstring> items_;
+    BlockList items_;
     std::int32_t listIndex_ = -1;
     bool sorted_;
 };

@@ -20,9 +20,9 @@ struct RecordsApp : TestApp {
         const std::wstring computer = onRemovable ? drive + L"\\Morvane\\DESK1\\Quillstart\\" : shared;
         std::filesystem::create_directories(sys.HostPath(shared));
         std::filesystem::create_directories(sys.HostPath(computer));
-        app.files.FileSet = computer + L"Set.Morvane";
-        app.files.FileComData = shared + L"COMData.Morvane";
-        app.files.FileUsbData = shared + L"USBData.Morvane";
+        app.place.FileSet = computer + L"Set.Morvane";
+        app.place.FileComData = shared + L"COMData.Morvane";
+        app.place.FileUsbData = shared + L"USBData.Morvane";
     }
 
     // Makes a file look as if it was written an hour ago and returns that time.

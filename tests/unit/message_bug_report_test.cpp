@@ -31,7 +31,7 @@ std::size_t MailLaunches(TestApp& t) {
 
 TEST(MessageBugReport, MissingProgramShowsTheBugDialogWithTheTag) {
     TestApp t;
-    t.app.user.UserNickName = L"Annie";
+    t.app.family.UserNickName = L"Annie";
     TypeMissingProgram(t);
     ASSERT_EQ(ShownMessages(t).size(), 1u);
     const auto& m = ShownMessages(t)[0];

@@ -48,7 +48,7 @@ TEST(MessageDialog, KeysAreMatchedExactlyWithTheirOwnSpelling) {
 
 TEST(MessageDialog, HeadingIsTheNickName) {
     TestApp t;
-    t.app.user.UserNickName = L"Annie";
+    t.app.family.UserNickName = L"Annie";
     Process(t, L"MessageDriveNotReady");
     ASSERT_EQ(ShownMessages(t).size(), 1u);
     EXPECT_EQ(ShownMessages(t)[0].heading, L"Annie");
@@ -56,7 +56,7 @@ TEST(MessageDialog, HeadingIsTheNickName) {
 
 TEST(MessageDialog, HeadingIsTheWindowsUserNameWhenTheNickNameIsEmpty) {
     TestApp t;
-    t.app.user.UserFirstName = L"Ann";
+    t.app.family.UserFirstName = L"Ann";
     Process(t, L"MessageDriveNotReady");
     ASSERT_EQ(ShownMessages(t).size(), 1u);
     EXPECT_EQ(ShownMessages(t)[0].heading, L"ann");
@@ -64,7 +64,7 @@ TEST(MessageDialog, HeadingIsTheWindowsUserNameWhenTheNickNameIsEmpty) {
 
 TEST(MessageDialog, NamePromptsHaveTheirOwnHeadings) {
     TestApp t;
-    t.app.user.UserNickName = L"Annie";
+    t.app.family.UserNickName = L"Annie";
     Process(t, L"MessageGetUserName");
     Process(t, L"MessageChangeUserName");
     ASSERT_EQ(ShownMessages(t).size(), 2u);
@@ -147,12 +147,12 @@ TEST(MessageDialog, FatalMessageAlreadySayingItExitsSaysItTwice) {
 
 TEST(MessageDialog, FatalMessageEndsTheProgramWithNothingSaved) {
     TestApp t;
-    t.app.files.FileSet = L"C:\\Morvane\\Set.Morvane";
+    t.app.place.FileSet = L"C:\\Morvane\\Set.Morvane";
     t.sys.PutFile(L"C:\\Morvane\\Keep.txt", "k");
     t.app.settings.MainLeft = 1234;
     t.app.MessageToShow = L"MessageMediaUnknown";
     EXPECT_THROW(qs::MessageEnd(t.app), ProgramEnded);
-    EXPECT_FALSE(t.sys.FileExists(t.app.files.FileSet));
+    EXPECT_FALSE(t.sys.FileExists(t.app.place.FileSet));
 }
 
 TEST(MessageDialog, FatalMessageEndsTheProgramWhicheverWayItCloses) {

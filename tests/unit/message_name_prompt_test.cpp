@@ -71,7 +71,7 @@ TEST(MessageNamePrompt, GetUserNameEnterDoesNothingUntilALetterIsTyped) {
         EXPECT_FALSE(form.IsLoaded());
     });
     Ask(t, L"MessageGetUserName");
-    EXPECT_EQ(t.app.user.UserFirstName, L"Ann");
+    EXPECT_EQ(t.app.family.UserFirstName, L"Ann");
 }
 
 TEST(MessageNamePrompt, GetUserNameDeletingAllLettersHidesOKAgain) {
@@ -137,22 +137,22 @@ TEST(MessageNamePrompt, GetUserNameOKStoresTheThreeNames) {
         form.ImageOK.Press();
     });
     Ask(t, L"MessageGetUserName");
-    EXPECT_EQ(t.app.user.UserFirstName, L"Ann");
-    EXPECT_EQ(t.app.user.UserLastName, L"Smith");
-    EXPECT_EQ(t.app.user.UserNickName, L"Annie");
+    EXPECT_EQ(t.app.family.UserFirstName, L"Ann");
+    EXPECT_EQ(t.app.family.UserLastName, L"Smith");
+    EXPECT_EQ(t.app.family.UserNickName, L"Annie");
 }
 
 TEST(MessageNamePrompt, GetUserNameCancelStoresNothing) {
     TestApp t;
     t.dialogs.Answer(TypeName(0, L"Ann"));
     Ask(t, L"MessageGetUserName");
-    EXPECT_EQ(t.app.user.UserFirstName, L"");
+    EXPECT_EQ(t.app.family.UserFirstName, L"");
 }
 
 TEST(MessageNamePrompt, ChangeUserNameWithAKnownFirstNameShowsThePreviewAtOnce) {
     TestApp t;
-    t.app.user.UserFirstName = L"Ann";
-    t.app.user.UserNickName = L"Annie";
+    t.app.family.UserFirstName = L"Ann";
+    t.app.family.UserNickName = L"Annie";
     t.dialogs.Answer([](FrmMessage& form) {
         EXPECT_EQ(form.TextMessage.Text(), Preview(L"Ann", L"Empty", L"Annie"));
         EXPECT_EQ(form.TextName[0]->Text(), L"Ann");
@@ -171,15 +171,15 @@ TEST(MessageNamePrompt, ChangeUserNameWithAllNamesEmptyKeepsThePromptAndOK) {
         form.ImageOK.Press();
     });
     Ask(t, L"MessageChangeUserName");
-    EXPECT_EQ(t.app.user.UserFirstName, L"");
-    EXPECT_EQ(t.app.user.UserLastName, L"");
-    EXPECT_EQ(t.app.user.UserNickName, L"");
+    EXPECT_EQ(t.app.family.UserFirstName, L"");
+    EXPECT_EQ(t.app.family.UserLastName, L"");
+    EXPECT_EQ(t.app.family.UserNickName, L"");
 }
 
 TEST(MessageNamePrompt, ChangeUserNameOKReplacesTheNames) {
     TestApp t;
-    t.app.user.UserFirstName = L"Ann";
-    t.app.user.UserLastName = L"Smith";
+    t.app.family.UserFirstName = L"Ann";
+    t.app.family.UserLastName = L"Smith";
     t.dialogs.Answer([](FrmMessage& form) {
         // The caret stands at the start of every box but the first.
         form.TextName[1]->SetSelStart(5);
@@ -188,24 +188,24 @@ TEST(MessageNamePrompt, ChangeUserNameOKReplacesTheNames) {
         form.ImageOK.Press();
     });
     Ask(t, L"MessageChangeUserName");
-    EXPECT_EQ(t.app.user.UserFirstName, L"Ann");
-    EXPECT_EQ(t.app.user.UserLastName, L"Jones");
-    EXPECT_EQ(t.app.user.UserNickName, L"Nan");
+    EXPECT_EQ(t.app.family.UserFirstName, L"Ann");
+    EXPECT_EQ(t.app.family.UserLastName, L"Jones");
+    EXPECT_EQ(t.app.family.UserNickName, L"Nan");
 }
 
 TEST(MessageNamePrompt, ChangeUserNameCancelKeepsTheNames) {
     TestApp t;
-    t.app.user.UserFirstName = L"Ann";
+    t.app.family.UserFirstName = L"Ann";
     t.dialogs.Answer(TypeName(0, L"Bob"));
     Ask(t, L"MessageChangeUserName");
-    EXPECT_EQ(t.app.user.UserFirstName, L"Ann");
+    EXPECT_EQ(t.app.family.UserFirstName, L"Ann");
 }
 
 TEST(MessageNamePrompt, EnterInANameBoxClicksOKWhenItShows) {
     TestApp t;
     t.dialogs.Answer(TypeNameAndEnter(2, L"Annie"));
     Ask(t, L"MessageChangeUserName");
-    EXPECT_EQ(t.app.user.UserNickName, L"Annie");
+    EXPECT_EQ(t.app.family.UserNickName, L"Annie");
 }
 
 TEST(MessageNamePrompt, TheNextMessageFindsTheNameBoxesHiddenAndEmpty) {

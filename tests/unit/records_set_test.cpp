@@ -27,9 +27,9 @@ qs::RecordValue Text(const wchar_t* value) { return std::wstring(value); }
 TEST(RecordsSet, FirstSaveOnAFixedDiskWritesExactlyTheDefaults) {
     RecordsApp r;
     Get(r);
-    EXPECT_FALSE(r.sys.FileExists(r.app.files.FileSet));
+    EXPECT_FALSE(r.sys.FileExists(r.app.place.FileSet));
     qs::ControlDataSave(r.app);
-    EXPECT_EQ(r.sys.FileBytes(r.app.files.FileSet), DefaultFixedFile);
+    EXPECT_EQ(r.sys.FileBytes(r.app.place.FileSet), DefaultFixedFile);
 }
 
 TEST(RecordsSet, FirstSaveWritesChangedValuesInOrder) {
@@ -42,7 +42,7 @@ TEST(RecordsSet, FirstSaveWritesChangedValuesInOrder) {
     s.HDDProgramLast = 4;
     s.ThemeIndex = 6;
     qs::ControlDataSave(r.app);
-    EXPECT_EQ(r.sys.FileBytes(r.app.files.FileSet),
+    EXPECT_EQ(r.sys.FileBytes(r.app.place.FileSet),
               "10\r\n57\r\n1500\r\n-30\r\n\"C:\\Music\\\"\r\n-1\r\n-1\r\n4\r\n8\r\n2\r\n6\r\n");
 }
 
@@ -50,27 +50,27 @@ TEST(RecordsSet, SecondSaveWithNothingChangedLeavesTheFileUntouched) {
     RecordsApp r;
     Get(r);
     qs::ControlDataSave(r.app);
-    const auto written = r.Age(r.app.files.FileSet);
+    const auto written = r.Age(r.app.place.FileSet);
     qs::ControlDataSave(r.app);
-    EXPECT_EQ(r.Modified(r.app.files.FileSet), written);
-    EXPECT_EQ(r.sys.FileBytes(r.app.files.FileSet), DefaultFixedFile);
+    EXPECT_EQ(r.Modified(r.app.place.FileSet), written);
+    EXPECT_EQ(r.sys.FileBytes(r.app.place.FileSet), DefaultFixedFile);
 }
 
 TEST(RecordsSet, LoadingAndSavingUnchangedValuesLeavesTheFileUntouched) {
     RecordsApp r;
     const std::string bytes = "10\r\n49\r\n1200\r\n300\r\n\"D:\\Docs\\\"\r\n3\r\n-1\r\n12\r\n10\r\n4\r\n2\r\n";
-    r.sys.PutFile(r.app.files.FileSet, bytes);
-    const auto before = r.Age(r.app.files.FileSet);
+    r.sys.PutFile(r.app.place.FileSet, bytes);
+    const auto before = r.Age(r.app.place.FileSet);
     Get(r);
     qs::ControlDataSave(r.app);
-    EXPECT_EQ(r.Modified(r.app.files.FileSet), before);
-    EXPECT_EQ(r.sys.FileBytes(r.app.files.FileSet), bytes);
+    EXPECT_EQ(r.Modified(r.app.place.FileSet), before);
+    EXPECT_EQ(r.sys.FileBytes(r.app.place.FileSet), bytes);
     EXPECT_TRUE(ShownMessages(r).empty());
 }
 
 TEST(RecordsSet, LoadFillsEveryWorkingVariable) {
     RecordsApp r;
-    r.sys.PutFile(r.app.files.FileSet,
+    r.sys.PutFile(r.app.place.FileSet,
                   "10\r\n49\r\n1200\r\n300\r\n\"D:\\Docs\\\"\r\n3\r\n-1\r\n12\r\n10\r\n4\r\n2\r\n");
     Get(r);
     const auto& s = r.app.settings;
@@ -88,17 +88,17 @@ TEST(RecordsSet, LoadFillsEveryWorkingVariable) {
 
 TEST(RecordsSet, MovingTheBarRewritesTheFile) {
     RecordsApp r;
-    r.sys.PutFile(r.app.files.FileSet, DefaultFixedFile);
+    r.sys.PutFile(r.app.place.FileSet, DefaultFixedFile);
     Get(r);
     r.app.settings.MainLeft = 600;
     qs::ControlDataSave(r.app);
-    EXPECT_EQ(r.sys.FileBytes(r.app.files.FileSet),
+    EXPECT_EQ(r.sys.FileBytes(r.app.place.FileSet),
               "10\r\n57\r\n600\r\n0\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n8\r\n2\r\n0\r\n");
 }
 
 TEST(RecordsSet, FileWithVersionSevenIsRewrittenAtLoadWithElevenValues) {
     RecordsApp r;
-    r.sys.PutFile(r.app.files.FileSet, "7\r\n25\r\n900\r\n450\r\n\"C:\\Data\\\"\r\n5\r\n6\r\n7\r\n");
+    r.sys.PutFile(r.app.place.FileSet, "7\r\n25\r\n900\r\n450\r\n\"C:\\Data\\\"\r\n5\r\n6\r\n7\r\n");
     Get(r);
     const auto& s = r.app.settings;
     EXPECT_EQ(s.FontSizeSetting, 8);
@@ -106,7 +106,7 @@ TEST(RecordsSet, FileWithVersionSevenIsRewrittenAtLoadWithElevenValues) {
     EXPECT_EQ(s.ThemeIndex, 0);
     EXPECT_EQ(s.OptionWord, 25);
     EXPECT_EQ(s.LastFolder, L"C:\\Data\\");
-    EXPECT_EQ(r.sys.FileBytes(r.app.files.FileSet), "10\r\n25\r\n900\r\n450\r\n\"C:\\Data\\\"\r\n5\r\n6\r\n7\r\n8\r\n2\r\n0\r\n");
+    EXPECT_EQ(r.sys.FileBytes(r.app.place.FileSet), "10\r\n25\r\n900\r\n450\r\n\"C:\\Data\\\"\r\n5\r\n6\r\n7\r\n8\r\n2\r\n0\r\n");
     const std::array<qs::RecordValue, 11> image = {Int(10), Int(25), Int(900), Int(450), Text(L"C:\\Data\\"), Int(5),
                                                    Int(6),  Int(7),  Int(8),   Int(2),   Int(0)};
     for (std::size_t i = 0; i < image.size(); ++i) EXPECT_EQ(s.SetRecord[i], image[i]) << i;
@@ -115,20 +115,20 @@ TEST(RecordsSet, FileWithVersionSevenIsRewrittenAtLoadWithElevenValues) {
 
 TEST(RecordsSet, UpgradedFileIsNotWrittenAgainAtExit) {
     RecordsApp r;
-    r.sys.PutFile(r.app.files.FileSet, "7\r\n25\r\n900\r\n450\r\n\"\"\r\n5\r\n6\r\n7\r\n");
+    r.sys.PutFile(r.app.place.FileSet, "7\r\n25\r\n900\r\n450\r\n\"\"\r\n5\r\n6\r\n7\r\n");
     Get(r);
-    const auto upgraded = r.Age(r.app.files.FileSet);
+    const auto upgraded = r.Age(r.app.place.FileSet);
     qs::ControlDataSave(r.app);
-    EXPECT_EQ(r.Modified(r.app.files.FileSet), upgraded);
+    EXPECT_EQ(r.Modified(r.app.place.FileSet), upgraded);
 }
 
 TEST(RecordsSet, ShortVersionOnAFlashDriveTakesTheFlashDefaultOptionWord) {
     RecordsApp r(true);
-    r.sys.PutFile(r.app.files.FileSet, "0\r\n");
+    r.sys.PutFile(r.app.place.FileSet, "0\r\n");
     Get(r);
     EXPECT_EQ(r.app.settings.OptionWord, 56);
     EXPECT_EQ(r.app.settings.HDDFileLast, -1);
-    EXPECT_EQ(r.sys.FileBytes(r.app.files.FileSet),
+    EXPECT_EQ(r.sys.FileBytes(r.app.place.FileSet),
               "10\r\n56\r\n0\r\n0\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n8\r\n2\r\n0\r\n");
 }
 
@@ -175,7 +175,7 @@ TEST(RecordsSet, CreateNowLeavesTheImageEmptyAndWritesNoFile) {
     bool onRemovable = false;
     qs::ControlDataCreateNow(r.app, onRemovable);
     for (const auto& value : r.app.settings.SetRecord) EXPECT_FALSE(value.has_value());
-    EXPECT_FALSE(r.sys.FileExists(r.app.files.FileSet));
+    EXPECT_FALSE(r.sys.FileExists(r.app.place.FileSet));
 }
 
 TEST(RecordsSet, CreateNowTakesTheOptionWordFromItsArgument) {
@@ -191,12 +191,12 @@ TEST(RecordsSet, FlashDriveFileAlwaysHoldsAnEmptyLastFolder) {
     Get(r);
     r.app.settings.LastFolder = L"E:\\Photos\\";
     qs::ControlDataSave(r.app);
-    EXPECT_EQ(r.sys.FileBytes(r.app.files.FileSet),
+    EXPECT_EQ(r.sys.FileBytes(r.app.place.FileSet),
               "10\r\n56\r\n0\r\n0\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n8\r\n2\r\n0\r\n");
     r.app.settings.LastFolder = L"E:\\Music\\";
-    const auto before = r.Age(r.app.files.FileSet);
+    const auto before = r.Age(r.app.place.FileSet);
     qs::ControlDataSave(r.app);
-    EXPECT_EQ(r.Modified(r.app.files.FileSet), before);
+    EXPECT_EQ(r.Modified(r.app.place.FileSet), before);
     EXPECT_EQ(r.app.settings.LastFolder, L"");
 }
 
@@ -205,12 +205,12 @@ TEST(RecordsSet, FixedDiskFileHoldsTheLastFolder) {
     Get(r);
     r.app.settings.LastFolder = L"C:\\Photos\\";
     qs::ControlDataSave(r.app);
-    EXPECT_NE(r.sys.FileBytes(r.app.files.FileSet).find("\r\n\"C:\\Photos\\\"\r\n"), std::string::npos);
+    EXPECT_NE(r.sys.FileBytes(r.app.place.FileSet).find("\r\n\"C:\\Photos\\\"\r\n"), std::string::npos);
 }
 
 TEST(RecordsSet, OptionWordZeroIsLegal) {
     RecordsApp r;
-    r.sys.PutFile(r.app.files.FileSet, "10\r\n0\r\n0\r\n0\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n8\r\n2\r\n0\r\n");
+    r.sys.PutFile(r.app.place.FileSet, "10\r\n0\r\n0\r\n0\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n8\r\n2\r\n0\r\n");
     Get(r);
     EXPECT_EQ(r.app.settings.OptionWord, 0);
     EXPECT_TRUE(ShownMessages(r).empty());
@@ -224,11 +224,11 @@ TEST(RecordsSet, OptionWordZeroIsLegal) {
 TEST(RecordsSet, FontSizeFiveIsKeptAsFiveInTheRecord) {
     RecordsApp r;
     const std::string bytes = "10\r\n57\r\n0\r\n0\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n5\r\n2\r\n0\r\n";
-    r.sys.PutFile(r.app.files.FileSet, bytes);
+    r.sys.PutFile(r.app.place.FileSet, bytes);
     Get(r);
     EXPECT_EQ(r.app.settings.FontSizeSetting, 5);
     qs::ControlDataSave(r.app);
-    EXPECT_EQ(r.sys.FileBytes(r.app.files.FileSet), bytes);
+    EXPECT_EQ(r.sys.FileBytes(r.app.place.FileSet), bytes);
 }
 
 TEST(RecordsSet, StoredPositionEndsAt32767Twips) {
@@ -238,7 +238,7 @@ TEST(RecordsSet, StoredPositionEndsAt32767Twips) {
     r.app.settings.MainTop = 32767;
     qs::ControlDataSave(r.app);
     RecordsApp again;
-    again.sys.PutFile(again.app.files.FileSet, r.sys.FileBytes(r.app.files.FileSet));
+    again.sys.PutFile(again.app.place.FileSet, r.sys.FileBytes(r.app.place.FileSet));
     Get(again);
     EXPECT_EQ(again.app.settings.MainLeft, 32767);
     EXPECT_EQ(again.app.settings.MainTop, 32767);
@@ -246,7 +246,7 @@ TEST(RecordsSet, StoredPositionEndsAt32767Twips) {
 
 TEST(RecordsSet, PositionBeyond32767InTheFileIsABug) {
     RecordsApp r;
-    r.sys.PutFile(r.app.files.FileSet, "10\r\n57\r\n32768\r\n0\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n8\r\n2\r\n0\r\n");
+    r.sys.PutFile(r.app.place.FileSet, "10\r\n57\r\n32768\r\n0\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n8\r\n2\r\n0\r\n");
     Get(r);
     EXPECT_TRUE(BugShown(r, L"Quillstart:Bug:ControlDataGet"));
     EXPECT_EQ(r.app.settings.OptionWord, 57);
@@ -256,7 +256,7 @@ TEST(RecordsSet, PositionBeyond32767InTheFileIsABug) {
 TEST(RecordsSet, ShortFileIsABugKeepsWhatWasReadAndLeavesTheRestZero) {
     RecordsApp r;
     const std::string bytes = "10\r\n49\r\n700\r\n80\r\n\"C:\\A\\\"\r\n4\r\n";
-    r.sys.PutFile(r.app.files.FileSet, bytes);
+    r.sys.PutFile(r.app.place.FileSet, bytes);
     Get(r);
     const auto& s = r.app.settings;
     EXPECT_TRUE(BugShown(r, L"Quillstart:Bug:ControlDataGet"));
@@ -274,23 +274,23 @@ TEST(RecordsSet, ShortFileIsABugKeepsWhatWasReadAndLeavesTheRestZero) {
     EXPECT_EQ(s.SetRecord[4], Text(L"C:\\A\\"));
     EXPECT_EQ(s.SetRecord[5], Int(4));
     for (std::size_t i = 6; i < s.SetRecord.size(); ++i) EXPECT_FALSE(s.SetRecord[i].has_value()) << i;
-    EXPECT_EQ(r.sys.FileBytes(r.app.files.FileSet), bytes);
+    EXPECT_EQ(r.sys.FileBytes(r.app.place.FileSet), bytes);
 }
 
 TEST(RecordsSet, ShortFileIsRewrittenWholeAtTheNextExit) {
     RecordsApp r;
-    r.sys.PutFile(r.app.files.FileSet, "10\r\n49\r\n700\r\n80\r\n\"C:\\A\\\"\r\n4\r\n");
+    r.sys.PutFile(r.app.place.FileSet, "10\r\n49\r\n700\r\n80\r\n\"C:\\A\\\"\r\n4\r\n");
     Get(r);
     qs::ControlDataSave(r.app);
-    EXPECT_EQ(r.sys.FileBytes(r.app.files.FileSet),
+    EXPECT_EQ(r.sys.FileBytes(r.app.place.FileSet),
               "10\r\n49\r\n700\r\n80\r\n\"C:\\A\\\"\r\n4\r\n0\r\n0\r\n0\r\n0\r\n0\r\n");
 }
 
 TEST(RecordsSet, VersionAboveTenReadsElevenValuesAndIgnoresTheRest) {
     RecordsApp r;
     const std::string bytes = "12\r\n57\r\n10\r\n20\r\n\"\"\r\n1\r\n2\r\n3\r\n12\r\n5\r\n3\r\n99\r\n\"extra\"\r\n";
-    r.sys.PutFile(r.app.files.FileSet, bytes);
-    const auto before = r.Age(r.app.files.FileSet);
+    r.sys.PutFile(r.app.place.FileSet, bytes);
+    const auto before = r.Age(r.app.place.FileSet);
     Get(r);
     const auto& s = r.app.settings;
     EXPECT_TRUE(ShownMessages(r).empty());
@@ -299,14 +299,14 @@ TEST(RecordsSet, VersionAboveTenReadsElevenValuesAndIgnoresTheRest) {
     ASSERT_TRUE(s.SetRecord[0].has_value());
     EXPECT_EQ(*s.SetRecord[0], qs::RecordValue(std::int16_t{10}));
     qs::ControlDataSave(r.app);
-    EXPECT_EQ(r.Modified(r.app.files.FileSet), before);
-    EXPECT_EQ(r.sys.FileBytes(r.app.files.FileSet), bytes);
+    EXPECT_EQ(r.Modified(r.app.place.FileSet), before);
+    EXPECT_EQ(r.sys.FileBytes(r.app.place.FileSet), bytes);
 }
 
 TEST(RecordsSet, TextInANumberFieldIsABugLikeAShortFile) {
     RecordsApp r;
     const std::string bytes = "10\r\n57\r\n100\r\nleft\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n8\r\n2\r\n0\r\n";
-    r.sys.PutFile(r.app.files.FileSet, bytes);
+    r.sys.PutFile(r.app.place.FileSet, bytes);
     Get(r);
     EXPECT_TRUE(BugShown(r, L"Quillstart:Bug:ControlDataGet"));
     EXPECT_EQ(r.app.settings.MainLeft, 100);
@@ -314,18 +314,18 @@ TEST(RecordsSet, TextInANumberFieldIsABugLikeAShortFile) {
     EXPECT_EQ(r.app.settings.HDDFileLast, 0);
     EXPECT_EQ(r.app.settings.SetRecord[2], Int(100));
     EXPECT_FALSE(r.app.settings.SetRecord[3].has_value());
-    EXPECT_EQ(r.sys.FileBytes(r.app.files.FileSet), bytes);
+    EXPECT_EQ(r.sys.FileBytes(r.app.place.FileSet), bytes);
 }
 
 TEST(RecordsSet, FailedWriteIsABugAndTheFileKeepsWhatItHeld) {
     RecordsApp r;
-    r.sys.PutFile(r.app.files.FileSet, DefaultFixedFile);
+    r.sys.PutFile(r.app.place.FileSet, DefaultFixedFile);
     Get(r);
     r.app.settings.MainTop = 120;
     r.sys.readOnlyPrefixes.push_back(L"C:\\Morvane\\");
     qs::ControlDataSave(r.app);
     EXPECT_TRUE(BugShown(r, L"Quillstart:Bug:ControlDataSave"));
-    EXPECT_EQ(r.sys.FileBytes(r.app.files.FileSet), DefaultFixedFile);
+    EXPECT_EQ(r.sys.FileBytes(r.app.place.FileSet), DefaultFixedFile);
     // The image took the new values before the write, so the next save
     // finds nothing to write.
     EXPECT_EQ(r.app.settings.SetRecord[3], Int(120));
@@ -333,7 +333,7 @@ TEST(RecordsSet, FailedWriteIsABugAndTheFileKeepsWhatItHeld) {
 
 TEST(RecordsSet, UnreadableFileIsABug) {
     RecordsApp r;
-    r.sys.PutFile(r.app.files.FileSet, "");
+    r.sys.PutFile(r.app.place.FileSet, "");
     Get(r);
     EXPECT_TRUE(BugShown(r, L"Quillstart:Bug:ControlDataGet"));
 }

@@ -110,9 +110,9 @@ TEST_F(StartChecks, FixedDiskRunFromAnotherDriveKeepsDataOnTheWindowsDrive) {
     EXPECT_TRUE(t.sys.FolderExists(L"C:\\Morvane\\Kinfold"));
     EXPECT_TRUE(t.sys.FolderExists(L"C:\\Morvane\\Morvane Apps\\Quillstart"));
     EXPECT_FALSE(t.sys.FolderExists(L"D:\\Morvane"));
-    EXPECT_EQ(t.app.files.FileSet, L"C:\\Morvane\\Morvane Apps\\Quillstart\\Set.Morvane");
-    EXPECT_EQ(t.app.files.FileComData, L"C:\\Morvane\\Morvane Apps\\Quillstart\\COMData.Morvane");
-    EXPECT_EQ(t.app.files.FileKinfold, L"C:\\Morvane\\Kinfold\\Kinfold.Morvane");
+    EXPECT_EQ(t.app.place.FileSet, L"C:\\Morvane\\Morvane Apps\\Quillstart\\Set.Morvane");
+    EXPECT_EQ(t.app.place.FileComData, L"C:\\Morvane\\Morvane Apps\\Quillstart\\COMData.Morvane");
+    EXPECT_EQ(t.app.place.FileKinfold, L"C:\\Morvane\\Kinfold\\Kinfold.Morvane");
 }
 
 TEST_F(StartChecks, FlashDriveRunKeepsComputerFilesInAFolderPerComputer) {
@@ -122,10 +122,10 @@ TEST_F(StartChecks, FlashDriveRunKeepsComputerFilesInAFolderPerComputer) {
     place().ComputerName = L"DESK1";
     bool onRemovable = true;
     qs::AtStartSetFileFolder(t.app, onRemovable);
-    EXPECT_EQ(t.app.files.FileSet, L"E:\\Morvane\\DESK1\\Quillstart\\Set.Morvane");
-    EXPECT_EQ(t.app.files.FileListProg, L"E:\\Morvane\\DESK1\\Quillstart\\ListProg.Morvane");
-    EXPECT_EQ(t.app.files.FileListWeb, L"E:\\Morvane\\Morvane Apps\\Quillstart\\ListWeb.Morvane");
-    EXPECT_EQ(t.app.files.FileListUsbProg, L"E:\\Morvane\\Morvane Apps\\Quillstart\\ListUSBProg.Morvane");
+    EXPECT_EQ(t.app.place.FileSet, L"E:\\Morvane\\DESK1\\Quillstart\\Set.Morvane");
+    EXPECT_EQ(t.app.place.FileListProg, L"E:\\Morvane\\DESK1\\Quillstart\\ListProg.Morvane");
+    EXPECT_EQ(t.app.place.FileListWeb, L"E:\\Morvane\\Morvane Apps\\Quillstart\\ListWeb.Morvane");
+    EXPECT_EQ(t.app.place.FileListUsbProg, L"E:\\Morvane\\Morvane Apps\\Quillstart\\ListUSBProg.Morvane");
     EXPECT_FALSE(t.sys.FolderExists(L"C:\\Morvane"));
 }
 
@@ -144,8 +144,8 @@ TEST_F(StartChecks, ReadOnlyFlashDriveShowsTheBugDialogWithPathsPartlySet) {
     bool onRemovable = true;
     qs::AtStartSetFileFolder(t.app, onRemovable);
     EXPECT_TRUE(qs::test::BugShown(t, L"Quillstart:Bug:AtStartSetFileFolder"));
-    EXPECT_EQ(t.app.files.FileGuru, L"");
-    EXPECT_EQ(t.app.files.FileSet, L"");
+    EXPECT_EQ(t.app.place.FileGuru, L"");
+    EXPECT_EQ(t.app.place.FileSet, L"");
 }
 
 }  // namespace

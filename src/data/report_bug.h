@@ -1,0 +1,16 @@
+#pragma once
+// The common failure handler's report: the routine's tag goes to
+// MessageToShow and the bug dialog shows it.
+#include <string>
+
+#include "common/application.h"
+#include "startup/active_message.h"
+
+namespace qs {
+
+inline void ReportBug(Application& app, const wchar_t* routine) {
+    app.MessageToShow = std::wstring(L"Quillstart:Bug:") + routine;
+    MessageBug(app);
+}
+
+}  // namespace qs

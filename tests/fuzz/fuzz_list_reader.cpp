@@ -1,0 +1,128 @@
+// Any bytes as a list file, loaded through the program's own loaders with any
+// counter: the lists stay paired and sorted, the only message is the
+// loader's bug report, and the lists saved afterwards load back unchanged.
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "dialog_backend.h"
+#include "common/application.h"
+#include "common/text_case.h"
+#include "data/launch_list.h"
+#include "memory_system.h"
+
+namespace {
+
+using qs::fuzz::Require;
+
+void RequirePairedAndSorted(const qs::ui::ListBox& names, const qs::ui::ListBox& paths) {
+    Require(names.ListCount() == paths.ListCount());
+    for (std::int32_t i = 1; i < names.ListCount(); ++i) Require(qs::CompareNoCase(names.List(i - 1), names.List(i)) <= 0);
+}
+
+void SetPlace(qs::Application& app, bool flash) {
+    app.place.OnRemovable = flash;
+    app.place.ProgramDriveLetter = flash ? L"E" : L"C";
+    app.place.ProgramDriveLetterUpper = app.place.ProgramDriveLetter;
+    app.place.WindowsRoot = L"C:\\";
+    app.place.ProgramRoot = flash ? L"E:\\" : L"C:\\";
+    app.place.ComputerName = L"DESK1";
+    qs::AssignDataFilePaths(app.place);
+}
+
+const std::wstring& ComputerFile(const qs::Application& app, std::int16_t group) {
+    const qs::ProgramPlace& p = app.place;
+    const std::wstring* files[] = {&p.FileListFile, &p.FileListFold, &p.FileListProg, &p.FileListMail, &p.FileListWeb};
+    return *files[group];
+}
+
+bool HoldsQuote(const qs::ui::ListBox& list) {
+    for (std::int32_t i = 0; i < list.ListCount(); ++i)
+        if (list.List(i).find(L'"') != std::wstring::npos) return true;
+    return false;
+}
+
+std::vector<std::wstring> Entries(const qs::ui::ListBox& list) {
+    std::vector<std::wstring> out;
+    for (std::int32_t i = 0; i < list.ListCount(); ++i) out.push_back(list.List(i));
+    return out;
+}
+
+// What a save of the loaded side writes loads back as the same lists, unless
+// an entry holds a double quote, which the file form cannot carry.
+void RequireRoundTrip(qs::fuzz::MemorySystem& sys, qs::Application& app, std::int16_t group, bool flash) {
+    const bool shared = group >= 3;
+    const auto slot = static_cast<std::size_t>(group);
+    const qs::ui::ListBox& names = shared ? *app.frmChoose.ComboListItemName[slot]
+                                   : flash ? *app.frmHid.ComboUSBItemName[slot] : *app.frmHid.ComboHDDItemName[slot];
+    const qs::ui::ListBox& paths = shared ? *app.frmChoose.ComboListItemPath[slot]
+                                   : flash ? *app.frmHid.ComboUSBItemPath[slot] : *app.frmHid.ComboHDDItemPath[slot];
+    if (names.ListCount() == 0 || HoldsQuote(names) || HoldsQuote(paths)) return;
+    const auto last = static_cast<std::int16_t>(names.ListCount() - 1);
+    if (flash) {
+        qs::ActionLaunchListSaveUSB(app, std::to_wstring(group), last);
+    } else {
+        qs::ActionLaunchListSave(app, group, last);
+    }
+    qs::Application again(sys);
+    qs::test::DialogBackend againDialogs{again};
+    again.AttachBackend(&againDialogs);
+    again.place = app.place;
+    if (flash) {
+        qs::ActionLaunchListGetUSB(again, group, last);
+    } else {
+        qs::ActionLaunchListGet(again, group, last);
+    }
+    Require(againDialogs.shown.empty());
+    const qs::ui::ListBox& names2 = shared ? *again.frmChoose.ComboListItemName[slot]
+                                    : flash ? *again.frmHid.ComboUSBItemName[slot] : *again.frmHid.ComboHDDItemName[slot];
+    const qs::ui::ListBox& paths2 = shared ? *again.frmChoose.ComboListItemPath[slot]
+                                    : flash ? *again.frmHid.ComboUSBItemPath[slot] : *again.frmHid.ComboHDDItemPath[slot];
+    Require(Entries(names2) == Entries(names));
+    Require(Entries(paths2) == Entries(paths));
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    if (size < 3) return 0;
+    const std::int16_t group = static_cast<std::int16_t>(data[0] % 5);
+    const bool flash = (data[0] & 0x08) != 0 && group < 3;
+    const bool prefilled = (data[0] & 0x10) != 0;
+    const auto lastIndex = static_cast<std::int16_t>(data[1] | (data[2] << 8));
+    const std::wstring file = qs::fuzz::FromBytes(data + 3, size - 3);
+
+    qs::fuzz::MemorySystem sys;
+    // A target exists when its length is odd: a fixed rule that lets inputs
+    // reach both the kept and the dropped branch.
+    sys.exists = [](const std::wstring& path) { return path.size() % 2 == 1; };
+    qs::Application app(sys);
+    qs::test::DialogBackend dialogs{app};
+    app.AttachBackend(&dialogs);
+    SetPlace(app, flash);
+    auto& names = *app.frmChoose.ComboListItemName[static_cast<std::size_t>(group)];
+    auto& paths = *app.frmChoose.ComboListItemPath[static_cast<std::size_t>(group)];
+    if (prefilled) qs::AddItemInStep(names, paths, L"m", L"C:\\m.exe");
+
+    std::wstring routine;
+    if (flash) {
+        sys.files[app.place.FileListUsbFile] = sys.files[app.place.FileListUsbFold] = sys.files[app.place.FileListUsbProg] = file;
+        qs::ActionLaunchListGetUSB(app, group, lastIndex);
+        routine = L"Quillstart:Bug:ActionLaunchListGetUSB";
+    } else {
+        sys.files[ComputerFile(app, group)] = file;
+        qs::ActionLaunchListGet(app, group, lastIndex);
+        routine = L"Quillstart:Bug:ActionLaunchListGet";
+    }
+    Require(dialogs.shown.size() <= 1);
+    for (const auto& m : dialogs.shown) Require(m.key == routine);
+    RequirePairedAndSorted(names, paths);
+    if (group < 3) {
+        RequirePairedAndSorted(*app.frmHid.ComboHDDItemName[static_cast<std::size_t>(group)],
+                               *app.frmHid.ComboHDDItemPath[static_cast<std::size_t>(group)]);
+        RequirePairedAndSorted(*app.frmHid.ComboUSBItemName[static_cast<std::size_t>(group)],
+                               *app.frmHid.ComboUSBItemPath[static_cast<std::size_t>(group)]);
+    }
+    if (dialogs.shown.empty()) RequireRoundTrip(sys, app, group, flash);
+    return 0;
+}

@@ -1,0 +1,70 @@
+#pragma once
+// The operating system for the fuzz targets: files in memory, fixed answers
+// for everything else, and a rule deciding which launch targets exist, so
+// that each input runs in microseconds with no disk at all.
+#include <functional>
+#include <map>
+#include <string>
+
+#include "common/failure.h"
+#include "platform/system.h"
+
+namespace qs::fuzz {
+
+class MemorySystem : public System {
+public:
+    std::map<std::wstring, std::wstring> files;
+    // Whether a path that is not among `files` exists, as file or folder.
+    std::function<bool(const std::wstring&)> exists = [](const std::wstring&) { return false; };
+
+    std::int32_t ShellOpen(const std::wstring&) override { return 42; }
+    void ShellRun(const std::wstring&) override {}
+    std::wstring SpecialFolder(const std::wstring&) override { return L""; }
+    std::wstring WindowsDirectory() override { return L"C:\\Windows"; }
+    std::wstring Environment(const std::wstring&) override { return L""; }
+    void RegWrite(const std::wstring&, const std::wstring&) override {}
+    std::wstring RegRead(const std::wstring&) override { throw SystemCallFailed("no such value"); }
+    void RegDelete(const std::wstring&) override {}
+    std::wstring GetDriveName(const std::wstring& path) override {
+        return path.size() >= 2 && path[1] == L':' ? path.substr(0, 2) : L"";
+    }
+    DriveInfo GetDrive(const std::wstring& name) override { return {name.substr(0, 1), name, DriveType::Fixed}; }
+    bool FileExists(const std::wstring& path) override { return files.count(path) > 0 || exists(path); }
+    bool FolderExists(const std::wstring& path) override { return exists(path); }
+    void CreateFolder(const std::wstring&) override {}
+    std::int32_t GetAttributes(const std::wstring&) override { return 32; }
+    void DeleteFile(const std::wstring& path) override { files.erase(path); }
+    std::wstring ReadTextFile(const std::wstring& path) override {
+        const auto at = files.find(path);
+        if (at == files.end()) throw SystemCallFailed("cannot open");
+        return at->second;
+    }
+    void WriteTextFile(const std::wstring& path, const std::wstring& text) override { files[path] = text; }
+    std::wstring ApplicationFolder() override { return L"C:\\Tools\\"; }
+    bool AnotherCopyRunning() override { return false; }
+    void SurfaceRunningCopy() override {}
+    std::int32_t ScreenWidthTwips() override { return 1920 * 15; }
+    std::int32_t ScreenHeightTwips() override { return 1080 * 15; }
+    std::int32_t TwipsPerPixelX() override { return 15; }
+    std::int32_t TwipsPerPixelY() override { return 15; }
+    PixelRect WorkArea() override { return {0, 0, 1920, 1040}; }
+    CalendarDate Today() override { return {2026, 11, 15}; }
+    void StartScreenSaver() override {}
+    void CreateShortcut(const ShortcutSpec&) override {}
+    [[noreturn]] void EndProgram() override { __builtin_trap(); }
+};
+
+// Input bytes as the 8-bit code page gives them.
+inline std::wstring FromBytes(const std::uint8_t* data, std::size_t size) {
+    std::wstring text;
+    text.reserve(size);
+    for (std::size_t i = 0; i < size; ++i) text.push_back(static_cast<wchar_t>(data[i]));
+    return text;
+}
+
+// A check that must hold for every input.
+inline void Require(bool condition) {
+    if (!condition) __builtin_trap();
+}
+
+}  // namespace qs::fuzz
