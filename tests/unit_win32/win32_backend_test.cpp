@@ -14,6 +14,7 @@
 #include "ui/text_box.h"
 #include "ui/timer.h"
 #include "win32_backend.h"
+#include "win32_system.h"
 #include "window_names.h"
 
 namespace {
@@ -292,6 +293,26 @@ TEST_F(Win32BackendTest, UserMoveIsReportedInTwips) {
     ::SetWindowPos(window, nullptr, 40, 50, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     EXPECT_EQ(form.Left(), qs::win::PixelsToTwips(40, dpi));
     EXPECT_EQ(form.Top(), qs::win::PixelsToTwips(50, dpi));
+}
+
+TEST_F(Win32BackendTest, SurfaceShowsAHiddenFormWithTheFocusInItsTextBox) {
+    form.Show();
+    form.Hide();
+    ::SetFocus(nullptr);
+    ::SendMessageW(window, ::RegisterWindowMessageW(qs::win::kSurfaceMessage), 0, 0);
+    EXPECT_TRUE(form.Visible());
+    EXPECT_TRUE(::IsWindowVisible(window));
+    EXPECT_EQ(::GetFocus(), edit);
+}
+
+TEST_F(Win32BackendTest, SecondCopyFindsTheBarByItsCaptionAndSurfacesIt) {
+    form.SetCaption(qs::win::kBarCaption);
+    form.Show();
+    form.Hide();
+    qs::win::Win32System sys;
+    sys.SurfaceRunningCopy();
+    EXPECT_TRUE(form.Visible());
+    EXPECT_TRUE(::IsWindowVisible(window));
 }
 
 }  // namespace
