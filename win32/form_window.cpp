@@ -23,6 +23,11 @@ COLORREF ToColorRef(std::uint32_t rgb) { return RGB((rgb >> 16) & 0xFF, (rgb >> 
 
 bool IsBorderless(const ui::Form& form) { return form.Style() == ui::FormStyle::Borderless; }
 
+bool RunsUnderWine() {
+    const HMODULE ntdll = ::GetModuleHandleW(L"ntdll.dll");
+    return ntdll != nullptr && ::GetProcAddress(ntdll, "wine_get_version") != nullptr;
+}
+
 }  // namespace
 
 void FormWindow::RegisterClasses(HINSTANCE instance) {
@@ -44,7 +49,7 @@ FormWindow::FormWindow(HINSTANCE instance, ui::Form& form)
     dpi_ = SystemDpi();
     const bool borderless = IsBorderless(form_);
     const DWORD style = WS_CLIPCHILDREN | (borderless ? WS_POPUP : WS_POPUP | WS_CAPTION | WS_SYSMENU);
-    const DWORD exStyle = borderless ? WS_EX_TOOLWINDOW : WS_EX_DLGMODALFRAME;
+    const DWORD exStyle = borderless ? 0 : WS_EX_DLGMODALFRAME;
     ::CreateWindowExW(exStyle, borderless ? kBorderlessClass : kDialogClass, form_.Caption().c_str(), style,
                       TwipsToPixels(form_.Left(), dpi_), TwipsToPixels(form_.Top(), dpi_),
                       TwipsToPixels(form_.Width(), dpi_), TwipsToPixels(form_.Height(), dpi_), nullptr, nullptr,
@@ -174,7 +179,12 @@ void FormWindow::FocusFirstControl() {
 
 void FormWindow::Surface() {
     form_.Show();
-    if (::IsIconic(Handle())) ::ShowWindow(Handle(), SW_RESTORE);
+    // Under Wine the X window manager decides who is active and refuses a
+    // program's own request; a window it restores from the minimised state
+    // it activates, so there the form goes down and comes back up.
+    const bool wine = RunsUnderWine();
+    if (wine && !::IsIconic(Handle())) ::ShowWindow(Handle(), SW_MINIMIZE);
+    if (wine || ::IsIconic(Handle())) ::ShowWindow(Handle(), SW_RESTORE);
     ::SetForegroundWindow(Handle());
     if (lastFocus_ != nullptr && ::IsChild(Handle(), lastFocus_) && ::IsWindowVisible(lastFocus_)) {
         ::SetFocus(lastFocus_);
