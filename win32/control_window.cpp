@@ -27,7 +27,9 @@ void ControlWindow::CreateChild(const wchar_t* windowClass, DWORD style, DWORD e
     window_ = ::CreateWindowExW(exStyle, windowClass, L"", style, r.left, r.top, r.right - r.left, r.bottom - r.top,
                                 form_.Handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(id_)),
                                 ::GetModuleHandleW(nullptr), nullptr);
-    if (window_ != nullptr) ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form_.Font()), FALSE);
+    if (window_ == nullptr) return;
+    ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form_.Font()), FALSE);
+    if (!control_.ToolTipText().empty()) form_.SetToolTip(window_, control_.ToolTipText());
 }
 
 RECT ControlWindow::PixelRect() const {
@@ -70,6 +72,9 @@ void ControlWindow::Changed(ui::Property what) {
             break;
         case ui::Property::Focus:
             if (window_ != nullptr) ::SetFocus(window_);
+            break;
+        case ui::Property::ToolTip:
+            form_.SetToolTip(window_, control_.ToolTipText());
             break;
         default:
             break;

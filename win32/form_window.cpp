@@ -2,6 +2,7 @@
 
 #include <windows.h>
 #include <windowsx.h>
+#include <commctrl.h>
 
 #include "dpi.h"
 #include "pencil_art.h"
@@ -97,6 +98,26 @@ LONG FormWindow::ClientHeight() const {
 
 void FormWindow::FieldsMoved() {
     if (Handle() != nullptr) ::InvalidateRect(Handle(), nullptr, FALSE);
+}
+
+void FormWindow::SetToolTip(HWND child, const std::wstring& text) {
+    if (child == nullptr || Handle() == nullptr) return;
+    if (toolTips_ == nullptr) {
+        if (text.empty()) return;
+        toolTips_ = ::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
+                                      CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, Handle(), nullptr,
+                                      ::GetModuleHandleW(nullptr), nullptr);
+        if (toolTips_ == nullptr) return;
+    }
+    TTTOOLINFOW tool{};
+    tool.cbSize = sizeof(tool);
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = Handle();
+    tool.uId = reinterpret_cast<UINT_PTR>(child);
+    ::SendMessageW(toolTips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    if (text.empty()) return;
+    tool.lpszText = const_cast<wchar_t*>(text.c_str());
+    ::SendMessageW(toolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 void FormWindow::MakeFont() {

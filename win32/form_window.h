@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "control_window.h"
@@ -35,6 +36,8 @@ public:
     LONG ClientHeight() const;
     // A text box moved or showed: the fields behind them are repainted.
     void FieldsMoved();
+    // Shows the text as the tip of a child window; "" removes the tip.
+    void SetToolTip(HWND child, const std::wstring& text);
 
     // Cuts every tie to the form and its controls and destroys the window.
     void Detach();
@@ -65,6 +68,8 @@ private:
     LONG lineHeight_ = 0;
     std::vector<std::unique_ptr<ControlWindow>> controls_;
     HWND lastFocus_ = nullptr;
+    // The form's tooltip window, made at the first tip; owned by the form's window.
+    HWND toolTips_ = nullptr;
     // True while the form's own geometry is written to the window.
     bool placing_ = false;
     bool detached_ = false;

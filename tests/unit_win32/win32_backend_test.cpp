@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <windows.h>
+#include <commctrl.h>
 
 #include <string>
 #include <vector>
@@ -313,6 +314,33 @@ TEST_F(Win32BackendTest, SecondCopyFindsTheBarByItsCaptionAndSurfacesIt) {
     sys.SurfaceRunningCopy();
     EXPECT_TRUE(form.Visible());
     EXPECT_TRUE(::IsWindowVisible(window));
+}
+
+TEST_F(Win32BackendTest, ToolTipTextBecomesATipOfTheControlsWindow) {
+    form.Box.SetToolTipText(L"Type a Command");
+    HWND tips = nullptr;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND candidate, LPARAM found) -> BOOL {
+            wchar_t className[64] = {};
+            ::GetClassNameW(candidate, className, 64);
+            if (std::wstring(className) != TOOLTIPS_CLASSW) return TRUE;
+            *reinterpret_cast<HWND*>(found) = candidate;
+            return FALSE;
+        },
+        reinterpret_cast<LPARAM>(&tips));
+    ASSERT_NE(tips, nullptr);
+    EXPECT_EQ(::SendMessageW(tips, TTM_GETTOOLCOUNT, 0, 0), 1);
+    wchar_t text[80] = {};
+    TTTOOLINFOW tool{};
+    tool.cbSize = sizeof(tool);
+    tool.hwnd = window;
+    tool.uId = reinterpret_cast<UINT_PTR>(edit);
+    tool.lpszText = text;
+    ::SendMessageW(tips, TTM_GETTEXTW, 80, reinterpret_cast<LPARAM>(&tool));
+    EXPECT_STREQ(text, L"Type a Command");
+    form.Box.SetToolTipText(L"");
+    EXPECT_EQ(::SendMessageW(tips, TTM_GETTOOLCOUNT, 0, 0), 0);
 }
 
 }  // namespace
