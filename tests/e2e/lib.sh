@@ -127,19 +127,15 @@ e2e_type() {
   qs_poll 5 e2e_text_is "$1" || e2e_fail "typed \"$1\" but the box holds \"$E2E_TEXT\""
 }
 
-# Clicks into the box, types a Command, checks it, and presses Enter.
+# Clicks into the box, selects whatever it holds (the bar starts with its
+# name in it), types a Command over it, checks that it arrived as typed,
+# saves a screenshot and presses Enter.
+# Usage: e2e_command TEXT [SCREENSHOT_LABEL]
 e2e_command() {
-  e2e_click_box || return 1
-  e2e_type "$1" || return 1
-  e2e_screenshot typed
-  xdotool key Return
-}
-
-# Replaces whatever the box holds by a new Command and presses Enter.
-e2e_replace_command() {
   e2e_click_box || return 1
   xdotool key End shift+Home
   e2e_type "$1" || return 1
+  e2e_screenshot "${2:-typed}"
   xdotool key Return
 }
 
@@ -169,7 +165,7 @@ e2e_expect_nothing_launched() {
   sleep 1
   e2e_text_is "$standing" || e2e_fail "the box holds \"$E2E_TEXT\" after Enter, expected \"$standing\" to stay" || return 1
   e2e_screenshot standing
-  e2e_replace_command "w;control.example" || return 1
+  e2e_command "w;control.example" control || return 1
   e2e_wait_launch "http://www.control.example" || return 1
   sleep 1
   [ "$(e2e_log_lines)" -eq 1 ] || e2e_fail "something else was launched: $(e2e_log_summary)"
