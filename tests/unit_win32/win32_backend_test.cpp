@@ -5,6 +5,7 @@
 #include <windows.h>
 #include <commctrl.h>
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -341,6 +342,38 @@ TEST_F(Win32BackendTest, ToolTipTextBecomesATipOfTheControlsWindow) {
     EXPECT_STREQ(text, L"Type a Command");
     form.Box.SetToolTipText(L"");
     EXPECT_EQ(::SendMessageW(tips, TTM_GETTOOLCOUNT, 0, 0), 0);
+}
+
+TEST_F(Win32BackendTest, DpiChangeTakesTheSuggestedPlaceAndTheFormsSizeAtTheNewDpi) {
+    form.Show();
+    RECT suggested{200, 100, 200 + 636, 100 + 35};
+    ::SendMessageW(window, WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&suggested));
+    RECT r{};
+    ::GetWindowRect(window, &r);
+    EXPECT_EQ(r.left, 200);
+    EXPECT_EQ(r.top, 100);
+    EXPECT_EQ(r.right - r.left, qs::win::TwipsToPixels(6000, 144));
+    EXPECT_EQ(r.bottom - r.top, qs::win::TwipsToPixels(600, 144));
+    // The form learns where the system put it, in twips at the new DPI.
+    EXPECT_EQ(form.Left(), qs::win::PixelsToTwips(200, 144));
+    EXPECT_EQ(form.Top(), qs::win::PixelsToTwips(100, 144));
+    // The text box is placed and lettered for the new DPI too.
+    RECT box{};
+    ::GetWindowRect(edit, &box);
+    EXPECT_EQ(box.left - r.left, qs::win::TwipsToPixels(720, 144));
+    EXPECT_EQ(box.right - box.left, qs::win::TwipsToPixels(1812, 144));
+}
+
+TEST_F(Win32BackendTest, FailureInAHandlerStopsAtTheWindowBoundary) {
+    form.Box.KeyPress = [](std::int16_t&) { throw std::runtime_error("handler failed"); };
+    EXPECT_NO_THROW(::SendMessageW(edit, WM_CHAR, L'a', 1));
+    form.Button.Click = [] { throw std::runtime_error("handler failed"); };
+    HWND button = ::FindWindowExW(window, nullptr, L"BUTTON", nullptr);
+    EXPECT_NO_THROW(::SendMessageW(button, BM_CLICK, 0, 0));
+    // The window still works afterwards.
+    form.Box.KeyPress = nullptr;
+    ::SendMessageW(edit, WM_CHAR, L'b', 1);
+    EXPECT_EQ(form.Box.Text(), L"b");
 }
 
 }  // namespace
