@@ -161,7 +161,17 @@ void FormWindow::ApplyGeometry() {
     FieldsMoved();
 }
 
-void FormWindow::ApplyVisible() { ::ShowWindow(Handle(), form_.Visible() ? SW_SHOW : SW_HIDE); }
+void FormWindow::ApplyVisible() {
+    if (form_.Visible() && form_.IsModal()) {
+        // A modal form belongs to the window it was opened from, so it stays
+        // above it even when that window is topmost.
+        const HWND opener = ::GetActiveWindow();
+        if (opener != nullptr && opener != Handle()) {
+            ::SetWindowLongPtrW(Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(opener));
+        }
+    }
+    ::ShowWindow(Handle(), form_.Visible() ? SW_SHOW : SW_HIDE);
+}
 
 void FormWindow::ApplyTopMost() {
     ::SetWindowPos(Handle(), form_.TopMost() ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,

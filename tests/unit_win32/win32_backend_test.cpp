@@ -263,13 +263,17 @@ TEST_F(Win32BackendTest, ModalLoopRunsUntilTheFormHidesWithTimersFiring) {
     TestForm dialog(qs::ui::FormStyle::Dialog);
     dialog.SetBackend(&backend);
     int ticks = 0;
+    HWND owner = nullptr;
     dialog.Tick.Tick = [&] {
+        owner = ::GetWindow(backend.WindowOf(dialog), GW_OWNER);
         if (++ticks == 3) dialog.Hide();
     };
     dialog.Tick.SetEnabled(true);
     dialog.ShowModal();
     EXPECT_EQ(ticks, 3);
     EXPECT_FALSE(dialog.Visible());
+    // The dialog belonged to the window it was opened from.
+    EXPECT_EQ(owner, window);
     // The other window was disabled during the loop and is enabled again.
     EXPECT_TRUE(::IsWindowEnabled(window));
     dialog.Unload();
