@@ -5,16 +5,18 @@
 # every scenario passed.
 #
 # Environment (all optional):
-#   E2E_EXE        Quillstart.exe to test (build/win/win32/Quillstart.exe)
+#   QS_WIN_BUILD   the cross build folder (build/win)
+#   E2E_EXE        Quillstart.exe to test ($QS_WIN_BUILD/win32/Quillstart.exe)
 #   E2E_TOOLS      folder of recorder.exe, probe.exe, winlist.exe,
-#                  drivetype.exe, endtasks.exe (build/win/tests/tools)
+#                  drivetype.exe, endtasks.exe ($QS_WIN_BUILD/tests/tools)
 #   E2E_RESULT     file that receives "<passed> <failed>"
 set -uo pipefail
 cd "$(dirname "$0")/../.."
 root=$PWD
 
-E2E_EXE=$(realpath -m "${E2E_EXE:-build/win/win32/Quillstart.exe}")
-E2E_TOOLS=$(realpath -m "${E2E_TOOLS:-build/win/tests/tools}")
+win_build=${QS_WIN_BUILD:-build/win}
+E2E_EXE=$(realpath -m "${E2E_EXE:-$win_build/win32/Quillstart.exe}")
+E2E_TOOLS=$(realpath -m "${E2E_TOOLS:-$win_build/tests/tools}")
 E2E_ARTIFACTS=$root/build/e2e-artifacts
 E2E_WORK=$(mktemp -d /tmp/quillstart-e2e.XXXXXX)
 E2E_TEXT=""
