@@ -1,7 +1,6 @@
 #include "form_window.h"
 
 #include <windows.h>
-#include <windowsx.h>
 #include <commctrl.h>
 
 #include "dpi.h"

@@ -69,20 +69,12 @@ struct WindowTraits {
     static void Close(Handle h) { ::DestroyWindow(h); }
 };
 
-struct MemoryDcTraits {
-    using Handle = HDC;
-    static Handle None() { return nullptr; }
-    static void Close(Handle h) { ::DeleteDC(h); }
-};
-
 using KernelHandle = UniqueHandle<KernelHandleTraits>;
 using FileHandle = UniqueHandle<FileHandleTraits>;
 using RegKey = UniqueHandle<RegKeyTraits>;
 using FontHandle = UniqueHandle<GdiObjectTraits<HFONT>>;
 using BrushHandle = UniqueHandle<GdiObjectTraits<HBRUSH>>;
-using BitmapHandle = UniqueHandle<GdiObjectTraits<HBITMAP>>;
 using WindowHandle = UniqueHandle<WindowTraits>;
-using MemoryDc = UniqueHandle<MemoryDcTraits>;
 
 // The device context of a window, released at the end of the scope.
 class WindowDc {
