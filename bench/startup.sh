@@ -19,7 +19,7 @@ win_build=${QS_WIN_BUILD:-build/win}
 [ "$runs" -ge 7 ] || { echo "startup: at least 7 runs make a median here" >&2; exit 2; }
 
 bash scripts/install-deps.sh
-bash scripts/build.sh win >/dev/null
+bash scripts/build.sh win
 
 # shellcheck source=../scripts/session.sh
 source scripts/session.sh

@@ -53,7 +53,9 @@ if ! qs_poll 60 bar_visible; then
   echo "run: the bar did not appear within 60 s; see $logs/quillstart.log" >&2
   exit 1
 fi
-# The bar paints right after it is mapped: give that one moment.
+# The pointer goes to a corner, off the bar; the bar paints right after it
+# is mapped: give that one moment.
+xdotool mousemove 1279 799
 sleep 1
 shot=$root/build/run-screenshot.png
 import -window root "$shot"
