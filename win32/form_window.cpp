@@ -5,6 +5,7 @@
 
 #include "dpi.h"
 #include "pencil_art.h"
+#include "res/resource_ids.h"
 #include "window_names.h"
 
 namespace qs::win {
@@ -23,6 +24,16 @@ COLORREF ToColorRef(std::uint32_t rgb) { return RGB((rgb >> 16) & 0xFF, (rgb >> 
 
 bool IsBorderless(const ui::Form& form) { return form.Style() == ui::FormStyle::Borderless; }
 
+// The program's own icon at a system size; the stock one where the module
+// carries none.
+HICON ProgramIcon(HINSTANCE instance, int widthMetric, int heightMetric) {
+    const int width = ::GetSystemMetrics(widthMetric);
+    const int height = ::GetSystemMetrics(heightMetric);
+    auto* icon = static_cast<HICON>(
+        ::LoadImageW(instance, MAKEINTRESOURCEW(IDI_QUILLSTART), IMAGE_ICON, width, height, LR_DEFAULTCOLOR | LR_SHARED));
+    return icon != nullptr ? icon : ::LoadIconW(nullptr, IDI_APPLICATION);
+}
+
 bool RunsUnderWine() {
     const HMODULE ntdll = ::GetModuleHandleW(L"ntdll.dll");
     return ntdll != nullptr && ::GetProcAddress(ntdll, "wine_get_version") != nullptr;
@@ -38,7 +49,8 @@ void FormWindow::RegisterClasses(HINSTANCE instance) {
         windowClass.lpfnWndProc = WindowProc;
         windowClass.hInstance = instance;
         windowClass.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-        windowClass.hIcon = ::LoadIconW(nullptr, IDI_APPLICATION);
+        windowClass.hIcon = ProgramIcon(instance, SM_CXICON, SM_CYICON);
+        windowClass.hIconSm = ProgramIcon(instance, SM_CXSMICON, SM_CYSMICON);
         windowClass.lpszClassName = name;
         ::RegisterClassExW(&windowClass);
     }
