@@ -3,8 +3,9 @@
 #include <windows.h>
 #include <commctrl.h>
 
+#include <algorithm>
+
 #include "dpi.h"
-#include "pencil_art.h"
 #include "res/resource_ids.h"
 #include "window_names.h"
 
@@ -235,14 +236,9 @@ void FormWindow::Surface() {
     }
 }
 
-void FormWindow::Paint() {
-    PaintScope paint(Handle());
+void FormWindow::UpdateBackground() {
     RECT client{};
     ::GetClientRect(Handle(), &client);
-    if (!IsBorderless(form_)) {
-        ::FillRect(paint.Get(), &client, ::GetSysColorBrush(COLOR_BTNFACE));
-        return;
-    }
     const double scale = static_cast<double>(dpi_) / USER_DEFAULT_SCREEN_DPI;
     std::vector<FieldRect> fields;
     for (auto& control : controls_) {
@@ -258,16 +254,19 @@ void FormWindow::Paint() {
         fields.push_back({r.left - 4.0 * scale, std::max(edgeRoom, r.top - around), r.right + 2.0 * scale,
                           std::min(client.bottom - edgeRoom, r.bottom + around)});
     }
-    const PixelImage image = RenderPencilBar(client.right, client.bottom, scale, fields);
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = image.width;
-    info.bmiHeader.biHeight = -image.height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-    ::SetDIBitsToDevice(paint.Get(), 0, 0, static_cast<DWORD>(image.width), static_cast<DWORD>(image.height), 0, 0, 0,
-                        static_cast<UINT>(image.height), image.pixels.data(), &info, DIB_RGB_COLORS);
+    background_.Update(client.right, client.bottom, dpi_, fields);
+}
+
+void FormWindow::Paint() {
+    PaintScope paint(Handle());
+    if (!IsBorderless(form_)) {
+        RECT client{};
+        ::GetClientRect(Handle(), &client);
+        ::FillRect(paint.Get(), &client, ::GetSysColorBrush(COLOR_BTNFACE));
+        return;
+    }
+    UpdateBackground();
+    background_.PaintTo(paint.Get());
 }
 
 LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -295,8 +294,14 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                 ::SetBkColor(dc, ToColorRef(kPencilFieldColor));
                 return reinterpret_cast<LRESULT>(fieldBrush_.Get());
             }
+            // Anything else shows the part of the picture it covers.
+            UpdateBackground();
+            RECT r{};
+            ::GetWindowRect(reinterpret_cast<HWND>(lParam), &r);
+            ::MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&r), 2);
+            ::SetBrushOrgEx(dc, -r.left, -r.top, nullptr);
             ::SetBkMode(dc, TRANSPARENT);
-            return reinterpret_cast<LRESULT>(::GetStockObject(NULL_BRUSH));
+            return reinterpret_cast<LRESULT>(background_.Brush());
         }
         case WM_COMMAND:
             if (lParam != 0) {

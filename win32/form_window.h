@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "control_window.h"
+#include "form_background.h"
 #include "handles.h"
 #include "ui/form.h"
 
@@ -56,6 +57,8 @@ private:
     void ApplyDpi(UINT dpi, const RECT* suggested);
     void MakeFont();
     void Paint();
+    // The picture for the form's present size, DPI and text boxes.
+    void UpdateBackground();
     void FocusFirstControl();
     ControlWindow* ControlById(int id) const;
     void ReportMove();
@@ -64,6 +67,7 @@ private:
     WindowHandle window_;
     FontHandle font_;
     BrushHandle fieldBrush_;
+    FormBackground background_;
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     LONG lineHeight_ = 0;
     std::vector<std::unique_ptr<ControlWindow>> controls_;

@@ -74,6 +74,7 @@ using FileHandle = UniqueHandle<FileHandleTraits>;
 using RegKey = UniqueHandle<RegKeyTraits>;
 using FontHandle = UniqueHandle<GdiObjectTraits<HFONT>>;
 using BrushHandle = UniqueHandle<GdiObjectTraits<HBRUSH>>;
+using BitmapHandle = UniqueHandle<GdiObjectTraits<HBITMAP>>;
 using WindowHandle = UniqueHandle<WindowTraits>;
 
 // The device context of a window, released at the end of the scope.

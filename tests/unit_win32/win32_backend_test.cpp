@@ -10,8 +10,10 @@
 #include <vector>
 
 #include "dpi.h"
+#include "handles.h"
 #include "ui/command_button.h"
 #include "ui/form.h"
+#include "ui/label.h"
 #include "ui/list_box.h"
 #include "ui/text_box.h"
 #include "ui/timer.h"
@@ -28,17 +30,20 @@ public:
           Box(*this, L"TextBox1"),
           Tick(*this, L"Timer1", 20),
           Button(*this, L"Command1"),
-          HiddenList(*this, L"List1", true) {
+          HiddenList(*this, L"List1", true),
+          Caption(*this, L"Label1", L"Count 1234") {
         SetCaption(L"QuillstartBackendTest");
         Move(1500, 1500, 6000, 600);
         Box.Move(720, 0, 1812, 372);
         Button.Move(3000, 0, 900, 300);
         HiddenList.SetVisible(false);
+        Caption.Move(4200, 0, 1500, 300);
     }
     qs::ui::TextBox Box;
     qs::ui::Timer Tick;
     qs::ui::CommandButton Button;
     qs::ui::ListBox HiddenList;
+    qs::ui::Label Caption;
 };
 
 std::wstring TextOf(HWND window) {
@@ -378,6 +383,28 @@ TEST_F(Win32BackendTest, FailureInAHandlerStopsAtTheWindowBoundary) {
     form.Box.KeyPress = nullptr;
     ::SendMessageW(edit, WM_CHAR, L'b', 1);
     EXPECT_EQ(form.Box.Text(), L"b");
+}
+
+TEST_F(Win32BackendTest, LabelShowsItsCaptionOverThePartOfThePictureItCovers) {
+    HWND label = ::FindWindowExW(window, nullptr, L"STATIC", nullptr);
+    ASSERT_NE(label, nullptr);
+    EXPECT_EQ(TextOf(label), L"Count 1234");
+    form.Caption.SetCaption(L"7");
+    EXPECT_EQ(TextOf(label), L"7");
+    form.Show();
+    ::UpdateWindow(window);
+    // The label's background brush is the form's own picture, not a hollow
+    // brush that would leave the old caption standing.
+    qs::win::WindowDc dc(label);
+    const auto brush = reinterpret_cast<HBRUSH>(
+        ::SendMessageW(window, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.Get()), reinterpret_cast<LPARAM>(label)));
+    ASSERT_NE(brush, nullptr);
+    EXPECT_NE(brush, static_cast<HBRUSH>(::GetStockObject(NULL_BRUSH)));
+    LOGBRUSH info{};
+    ::GetObjectW(brush, sizeof(info), &info);
+    // Systems differ in how they report a brush made from a DIB section.
+    EXPECT_TRUE(info.lbStyle == BS_PATTERN || info.lbStyle == BS_DIBPATTERN || info.lbStyle == BS_DIBPATTERNPT)
+        << info.lbStyle;
 }
 
 }  // namespace
