@@ -4,6 +4,9 @@
 # everything they started. Processes are ended by their own ids only.
 
 export WINEDEBUG=-all
+# Wine wants a home folder even with a prefix of its own; CI may not set one.
+HOME=${HOME:-$(getent passwd "$(id -u)" | cut -d: -f6)}
+export HOME
 export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
 
 QS_XVFB_PID=""

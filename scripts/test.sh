@@ -8,7 +8,7 @@
 # Exit status 0 only when nothing failed. QS_NATIVE_BUILD and QS_WIN_BUILD
 # name other build folders than build/native and build/win.
 set -uo pipefail
-cd "$(dirname "$0")/.."
+cd "$(dirname "$0")/.." || exit 1
 export QS_NATIVE_BUILD=${QS_NATIVE_BUILD:-build/native}
 export QS_WIN_BUILD=${QS_WIN_BUILD:-build/win}
 started=$SECONDS

@@ -11,7 +11,7 @@
 #                  drivetype.exe, endtasks.exe ($QS_WIN_BUILD/tests/tools)
 #   E2E_RESULT     file that receives "<passed> <failed>"
 set -uo pipefail
-cd "$(dirname "$0")/../.."
+cd "$(dirname "$0")/../.." || exit 1
 root=$PWD
 
 win_build=${QS_WIN_BUILD:-build/win}
