@@ -1,5 +1,7 @@
 #include "win32_backend.h"
 
+#include <algorithm>
+
 #include "form_window.h"
 #include "ui/form.h"
 
@@ -57,9 +59,24 @@ HWND Win32Backend::WindowOf(const ui::Form& form) const {
     return found == windows_.end() ? nullptr : found->second->Handle();
 }
 
+bool Win32Backend::MoveFocusByKey(const MSG& message) const {
+    if (message.message != WM_KEYDOWN || message.wParam != VK_TAB || message.hwnd == nullptr) return false;
+    if ((::GetKeyState(VK_CONTROL) & 0x8000) != 0 || (::GetKeyState(VK_MENU) & 0x8000) != 0) return false;
+    const HWND form = ::GetAncestor(message.hwnd, GA_ROOT);
+    const bool ours = std::any_of(windows_.begin(), windows_.end(),
+                                  [form](const auto& entry) { return entry.second->Handle() == form; });
+    if (!ours || form == message.hwnd) return false;
+    const bool backward = (::GetKeyState(VK_SHIFT) & 0x8000) != 0;
+    const HWND next = ::GetNextDlgTabItem(form, message.hwnd, backward ? TRUE : FALSE);
+    if (next == nullptr || next == message.hwnd) return false;
+    ::SetFocus(next);
+    return true;
+}
+
 bool Win32Backend::PumpOne(MSG& message) {
     const BOOL got = ::GetMessageW(&message, nullptr, 0, 0);
     if (got == 0 || got == -1) return false;
+    if (MoveFocusByKey(message)) return true;
     ::TranslateMessage(&message);
     ::DispatchMessageW(&message);
     ReleaseUnloaded();

@@ -30,6 +30,10 @@ public:
     // the loop is told to quit; returns the exit code.
     int RunMessageLoop();
 
+    // Tab and Shift+Tab move the focus among the controls of a form, as in
+    // a dialog; true when the key was used so.
+    bool MoveFocusByKey(const MSG& message) const;
+
 private:
     // One message through the loop; false once the loop is to end.
     bool PumpOne(MSG& message);

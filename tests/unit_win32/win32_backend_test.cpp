@@ -407,4 +407,19 @@ TEST_F(Win32BackendTest, LabelShowsItsCaptionOverThePartOfThePictureItCovers) {
         << info.lbStyle;
 }
 
+TEST_F(Win32BackendTest, TabMovesTheFocusToTheNextControlAndBack) {
+    form.Show();
+    ::SetFocus(edit);
+    HWND button = ::FindWindowExW(window, nullptr, L"BUTTON", nullptr);
+    MSG tab{edit, WM_KEYDOWN, VK_TAB, 0, 0, {}};
+    EXPECT_TRUE(backend.MoveFocusByKey(tab));
+    EXPECT_EQ(::GetFocus(), button);
+    tab.hwnd = button;
+    EXPECT_TRUE(backend.MoveFocusByKey(tab));
+    EXPECT_EQ(::GetFocus(), edit);
+    // Any other key goes its ordinary way.
+    MSG other{edit, WM_KEYDOWN, 'A', 0, 0, {}};
+    EXPECT_FALSE(backend.MoveFocusByKey(other));
+}
+
 }  // namespace
