@@ -1,0 +1,217 @@
+# shellcheck shell=bash
+# The end-to-end harness: a Wine prefix in which the browser, the mail program
+# and the text editor are the recorder, the real Quillstart.exe on a private X
+# display, and the steps a person takes at the bar: click into the Command
+# box, type, press Enter. Every effect is polled for with a time limit.
+#
+# Needs: E2E_EXE (Quillstart.exe), E2E_TOOLS (folder of recorder.exe,
+# probe.exe, winlist.exe, drivetype.exe, endtasks.exe), E2E_WORK (scratch folder),
+# E2E_ARTIFACTS (where screenshots go).
+
+E2E_REASON=""
+E2E_SCENARIOS=()
+E2E_FUNCTIONS=()
+
+# Registers a scenario. Usage: e2e_scenario NAME FUNCTION
+e2e_scenario() {
+  E2E_SCENARIOS+=("$1")
+  E2E_FUNCTIONS+=("$2")
+}
+
+# Records why the running scenario fails; returns non-zero for `|| return`.
+e2e_fail() {
+  E2E_REASON=$1
+  return 1
+}
+
+e2e_launch_log() {
+  echo "$WINEPREFIX/drive_c/rec/launches.log"
+}
+
+# Writes the association of a URL scheme or file type to the recorder.
+e2e_reg_open_command() {
+  printf '[HKEY_LOCAL_MACHINE\\Software\\Classes\\%s\\shell\\open\\command]\r\n@="\\"C:\\\\rec\\\\recorder.exe\\" \\"%%1\\""\r\n\r\n' "$1"
+}
+
+e2e_registry_file() {
+  printf 'Windows Registry Editor Version 5.00\r\n\r\n'
+  printf '[HKEY_LOCAL_MACHINE\\Software\\Classes\\http]\r\n@="URL:HyperText Transfer Protocol"\r\n"URL Protocol"=""\r\n\r\n'
+  printf '[HKEY_LOCAL_MACHINE\\Software\\Classes\\https]\r\n@="URL:HyperText Transfer Protocol with Privacy"\r\n"URL Protocol"=""\r\n\r\n'
+  printf '[HKEY_LOCAL_MACHINE\\Software\\Classes\\mailto]\r\n@="URL:MailTo Protocol"\r\n"URL Protocol"=""\r\n\r\n'
+  printf '[HKEY_LOCAL_MACHINE\\Software\\Classes\\.txt]\r\n@="txtfile"\r\n\r\n'
+  e2e_reg_open_command http
+  e2e_reg_open_command https
+  e2e_reg_open_command mailto
+  e2e_reg_open_command txtfile
+  printf '[HKEY_LOCAL_MACHINE\\Software\\Wine\\Drives]\r\n"e:"="floppy"\r\n\r\n'
+}
+
+# Builds the suite's one prefix: real user folders, the recorder as the
+# handler of http, https, mailto and .txt, a folder mapped as removable drive
+# E:, Quillstart.exe in C:\Quillstart\, and the files the scenarios open.
+e2e_setup_prefix() {
+  qs_new_prefix "$E2E_WORK/prefix" "$E2E_WORK/wineboot.log"
+  local c="$WINEPREFIX/drive_c"
+  mkdir -p "$c/rec" "$c/Quillstart" "$c/Temp" "$E2E_WORK/stick"
+  cp "$E2E_TOOLS/recorder.exe" "$c/rec/recorder.exe"
+  cp "$E2E_EXE" "$c/Quillstart/Quillstart.exe"
+  printf 'a text file opened by Quillstart\r\n' >"$c/somefile.txt"
+  ln -sfn "$E2E_WORK/stick" "$WINEPREFIX/dosdevices/e:"
+  e2e_registry_file >"$E2E_WORK/associations.reg"
+  wine regedit /S "$(winepath -w "$E2E_WORK/associations.reg" 2>/dev/null)" >"$E2E_WORK/regedit.log" 2>&1
+  # The drive type is read when the server starts.
+  qs_stop_wine
+  qs_start_wineserver
+  wine "$E2E_TOOLS/drivetype.exe" 'E:\' >"$E2E_WORK/drivetype.out" 2>&1 || true
+  grep -q '^type=2' "$E2E_WORK/drivetype.out" || e2e_fail "drive E: is not removable: $(tr -d '\r' <"$E2E_WORK/drivetype.out")"
+}
+
+# Reads the Command box with the probe into E2E_TEXT and E2E_RECT.
+e2e_probe() {
+  wine "$E2E_TOOLS/probe.exe" >"$E2E_WORK/probe.out" 2>"$E2E_WORK/probe.err" || return 1
+  local out
+  out=$(tr -d '\r' <"$E2E_WORK/probe.out")
+  E2E_TEXT=$(sed -n 's/^text=//p' <<<"$out")
+  E2E_RECT=$(sed -n 's/^rect=//p' <<<"$out")
+  [ -n "$E2E_RECT" ]
+}
+
+e2e_bar_visible() {
+  xdotool search --onlyvisible --name '^Quillstart$' >/dev/null 2>&1
+}
+
+e2e_bar_gone() {
+  ! e2e_bar_visible
+}
+
+# Ends what the last scenario left running (Quillstart and its dialogs, file
+# manager windows, a stray recorder or crash dialog) and empties the launch
+# log, so that each scenario starts clean while the wineserver stays warm.
+# Should that fail, all of Wine is restarted.
+e2e_reset() {
+  if ! wine "$E2E_TOOLS/endtasks.exe" image:Quillstart.exe image:recorder.exe image:winedbg.exe \
+    class:ExplorerWClass >"$E2E_WORK/endtasks.out" 2>&1 || ! qs_poll 10 e2e_bar_gone; then
+    qs_stop_wine
+    qs_start_wineserver
+  fi
+  rm -f "$(e2e_launch_log)"
+}
+
+e2e_start_quillstart() {
+  (cd "$WINEPREFIX/drive_c/Quillstart" && exec wine 'C:\Quillstart\Quillstart.exe' >"$E2E_WORK/quillstart.log" 2>&1 &)
+  qs_poll 30 e2e_bar_visible || e2e_fail "the bar window did not appear within 30 s" || return 1
+  qs_poll 10 e2e_probe || e2e_fail "the probe found no Command box in the bar"
+}
+
+# Clicks into the middle of the Command box, which gives it the focus.
+e2e_click_box() {
+  e2e_probe || e2e_fail "the probe found no Command box" || return 1
+  local l t r b
+  IFS=, read -r l t r b <<<"$E2E_RECT"
+  xdotool mousemove $(((l + r) / 2)) $(((t + b) / 2)) click 1
+}
+
+e2e_text_is() {
+  e2e_probe && [ "$E2E_TEXT" = "$1" ]
+}
+
+# Waits until the box holds exactly the given text.
+e2e_wait_text() {
+  qs_poll "${2:-10}" e2e_text_is "$1" || e2e_fail "the box holds \"$E2E_TEXT\", expected \"$1\""
+}
+
+# Clicks into the box, selects whatever it holds (the bar starts with its
+# name in it) and types the text over it. Keys typed before the box had the
+# focus are lost, so a second attempt follows a first that did not arrive.
+e2e_enter_text() {
+  for _ in 1 2; do
+    e2e_click_box || return 1
+    xdotool key End shift+Home
+    xdotool type --delay 25 -- "$1"
+    qs_poll 5 e2e_text_is "$1" && return 0
+  done
+  e2e_fail "typed \"$1\" but the box holds \"$E2E_TEXT\""
+}
+
+# Types a Command, checks that it arrived as typed, saves a screenshot and
+# presses Enter. Usage: e2e_command TEXT [SCREENSHOT_LABEL]
+e2e_command() {
+  e2e_enter_text "$1" || return 1
+  e2e_screenshot "${2:-typed}"
+  xdotool key Return
+}
+
+e2e_log_has() {
+  [ -f "$(e2e_launch_log)" ] && grep -qiF -- "$1" "$(e2e_launch_log)"
+}
+
+e2e_log_lines() {
+  if [ -f "$(e2e_launch_log)" ]; then wc -l <"$(e2e_launch_log)"; else echo 0; fi
+}
+
+# Waits until the recorder has logged a line holding the text.
+e2e_wait_launch() {
+  qs_poll "${2:-15}" e2e_log_has "$1" || e2e_fail "no launch of $1 reached the recorder (log: $(e2e_log_summary))"
+}
+
+e2e_log_summary() {
+  if [ -f "$(e2e_launch_log)" ]; then tr '\n' '|' <"$(e2e_launch_log)"; else echo "empty"; fi
+}
+
+# After a Command that must launch nothing: the text must still stand after a
+# bounded wait; then a control Command must reach the recorder, and after a
+# further wait it must be the only launch. Since Quillstart handles keys in
+# order on one thread, a launch of the first Command would have come first.
+e2e_expect_nothing_launched() {
+  local standing=$1
+  sleep 1
+  e2e_text_is "$standing" || e2e_fail "the box holds \"$E2E_TEXT\" after Enter, expected \"$standing\" to stay" || return 1
+  e2e_screenshot standing
+  e2e_command "w;control.example" control || return 1
+  e2e_wait_launch "http://www.control.example" || return 1
+  sleep 1
+  [ "$(e2e_log_lines)" -eq 1 ] || e2e_fail "something else was launched: $(e2e_log_summary)"
+}
+
+# Prints the visible top-level windows: pid, image path, class, title.
+e2e_windows() {
+  wine "$E2E_TOOLS/winlist.exe" >"$E2E_WORK/winlist.out" 2>/dev/null || return 1
+  tr -d '\r' <"$E2E_WORK/winlist.out"
+}
+
+# True when the file manager shows a window for the folder of that name: a
+# visible top-level window of class ExplorerWClass, owned by explorer.exe.
+e2e_explorer_shows() {
+  e2e_windows | awk -F'\t' -v title="$1" '
+    tolower($2) ~ /\\explorer\.exe$/ && $3 == "ExplorerWClass" && $4 == title { found = 1 }
+    END { exit !found }'
+}
+
+E2E_SHOT_PREFIX=""
+e2e_screenshot() {
+  import -window root "$E2E_ARTIFACTS/$E2E_SHOT_PREFIX-$1.png" >/dev/null 2>&1 || true
+}
+
+# Runs every registered scenario in a clean Wine session and prints
+# PASS or FAIL with its name, then "N passed, M failed".
+e2e_run_all() {
+  local passed=0 failed=0 i name began
+  for i in "${!E2E_SCENARIOS[@]}"; do
+    name=${E2E_SCENARIOS[$i]}
+    E2E_REASON=""
+    E2E_SHOT_PREFIX=$(printf '%02d-%s' "$((i + 1))" "${E2E_FUNCTIONS[$i]}")
+    e2e_reset
+    began=$SECONDS
+    if e2e_start_quillstart && e2e_screenshot started && "${E2E_FUNCTIONS[$i]}"; then
+      e2e_screenshot "done"
+      echo "PASS  $name ($((SECONDS - began)) s)"
+      passed=$((passed + 1))
+    else
+      e2e_screenshot failed
+      echo "FAIL  $name: $E2E_REASON ($((SECONDS - began)) s)"
+      failed=$((failed + 1))
+    fi
+  done
+  E2E_PASSED=$passed
+  E2E_FAILED=$failed
+}

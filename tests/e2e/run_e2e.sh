@@ -1,0 +1,67 @@
+#!/usr/bin/env bash
+# Runs the end-to-end suite against the real Quillstart.exe under Wine in a
+# private Xvfb display. Prints PASS/FAIL per scenario and "N passed,
+# M failed"; screenshots go to build/e2e-artifacts/. Exit status 0 only when
+# every scenario passed.
+#
+# Environment (all optional):
+#   QS_WIN_BUILD   the cross build folder (build/win)
+#   E2E_EXE        Quillstart.exe to test ($QS_WIN_BUILD/win32/Quillstart.exe)
+#   E2E_TOOLS      folder of recorder.exe, probe.exe, winlist.exe,
+#                  drivetype.exe, endtasks.exe ($QS_WIN_BUILD/tests/tools)
+#   E2E_RESULT     file that receives "<passed> <failed>"
+set -uo pipefail
+cd "$(dirname "$0")/../.." || exit 1
+root=$PWD
+
+win_build=${QS_WIN_BUILD:-build/win}
+E2E_EXE=$(realpath -m "${E2E_EXE:-$win_build/win32/Quillstart.exe}")
+E2E_TOOLS=$(realpath -m "${E2E_TOOLS:-$win_build/tests/tools}")
+E2E_ARTIFACTS=$root/build/e2e-artifacts
+E2E_WORK=$(mktemp -d /tmp/quillstart-e2e.XXXXXX)
+E2E_TEXT=""
+E2E_PASSED=0
+E2E_FAILED=0
+
+# shellcheck source=../../scripts/session.sh
+source scripts/session.sh
+# shellcheck source=lib.sh
+source tests/e2e/lib.sh
+# shellcheck source=scenarios_web.sh
+source tests/e2e/scenarios_web.sh
+# shellcheck source=scenarios_shell.sh
+source tests/e2e/scenarios_shell.sh
+
+finish() {
+  qs_stop_wine
+  qs_stop_display
+  rm -rf "$E2E_WORK"
+}
+trap finish EXIT
+
+rm -rf "$E2E_ARTIFACTS"
+mkdir -p "$E2E_ARTIFACTS"
+
+setup_error=""
+for f in "$E2E_EXE" "$E2E_TOOLS/recorder.exe" "$E2E_TOOLS/probe.exe" "$E2E_TOOLS/winlist.exe" "$E2E_TOOLS/drivetype.exe" \
+  "$E2E_TOOLS/endtasks.exe"; do
+  [ -f "$f" ] || setup_error="missing $f (build with scripts/build.sh win)"
+done
+if [ -z "$setup_error" ]; then
+  qs_start_display "$E2E_WORK" || setup_error="no X display"
+fi
+if [ -z "$setup_error" ]; then
+  echo "e2e: display $DISPLAY, prefix $E2E_WORK/prefix"
+  e2e_setup_prefix || setup_error="prefix: $E2E_REASON"
+fi
+
+if [ -n "$setup_error" ]; then
+  for name in "${E2E_SCENARIOS[@]}"; do echo "FAIL  $name: $setup_error"; done
+  E2E_FAILED=${#E2E_SCENARIOS[@]}
+else
+  e2e_run_all
+fi
+
+echo "$E2E_PASSED passed, $E2E_FAILED failed"
+[ -n "${E2E_RESULT:-}" ] && echo "$E2E_PASSED $E2E_FAILED" >"$E2E_RESULT"
+[ "$E2E_FAILED" -eq 0 ]

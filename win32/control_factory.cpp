@@ -1,0 +1,26 @@
+// One peer class per control kind; no window needs code of its own.
+#include "control_kinds.h"
+#include "text_box_window.h"
+
+namespace qs::win {
+
+std::unique_ptr<ControlWindow> MakeControlWindow(FormWindow& form, ui::Control& control, int id) {
+    switch (control.Kind()) {
+        case ui::ControlKind::TextBox:
+            return std::make_unique<TextBoxWindow>(form, static_cast<ui::TextBox&>(control), id);
+        case ui::ControlKind::Label:
+            return std::make_unique<LabelWindow>(form, static_cast<ui::Label&>(control), id);
+        case ui::ControlKind::CommandButton:
+            return std::make_unique<ButtonWindow>(form, static_cast<ui::CommandButton&>(control), id);
+        case ui::ControlKind::Timer:
+            return std::make_unique<TimerPeer>(form, static_cast<ui::Timer&>(control), id);
+        case ui::ControlKind::ListBox:
+            return std::make_unique<ListBoxWindow>(form, static_cast<ui::ListBox&>(control), id);
+        case ui::ControlKind::PictureBox:
+        case ui::ControlKind::CheckBox:
+            return std::make_unique<PlainWindow>(form, control, id);
+    }
+    return std::make_unique<PlainWindow>(form, control, id);
+}
+
+}  // namespace qs::win

@@ -1,0 +1,66 @@
+#pragma once
+// The peer of one control: mirrors the control's properties onto its child
+// window and reports the window's input to the control. Child windows are
+// owned by the form's window and die with it.
+#include <windows.h>
+
+#include <memory>
+
+#include "ui/control.h"
+
+namespace qs::win {
+
+class FormWindow;
+
+class ControlWindow : public ui::ControlPeer {
+public:
+    ControlWindow(FormWindow& form, ui::Control& control, int id);
+    ControlWindow(const ControlWindow&) = delete;
+    ControlWindow& operator=(const ControlWindow&) = delete;
+    ~ControlWindow() override;
+
+    void Changed(ui::Property what) final;
+
+    ui::Control& Model() const { return control_; }
+    HWND Handle() const { return window_; }
+    int Id() const { return id_; }
+    // True once the form is unloaded: the control no longer has a window.
+    bool Detached() const { return detached_; }
+    // Called when the form goes away; from then on nothing reaches the control.
+    void Detach();
+
+    // Creates the window if the control has one to show; called once, after
+    // every peer of the form exists.
+    virtual void Create() = 0;
+    // A WM_COMMAND notification from the window.
+    virtual void OnCommand(WORD) {}
+    // A WM_TIMER with the control's id.
+    virtual void OnTimer() {}
+    // The form's DPI or font changed.
+    void ApplyDpi();
+    // The form's size changed: the window takes its place again.
+    void Relayout() { ApplyGeometry(); }
+    // Whether the keyboard focus may rest on this control.
+    virtual bool TakesFocus() const { return false; }
+
+protected:
+    // Creates the child window with the control's geometry and state.
+    void CreateChild(const wchar_t* windowClass, DWORD style, DWORD exStyle = 0);
+    virtual void OnChanged(ui::Property) {}
+    virtual RECT PixelRect() const;
+    FormWindow& Form() const { return form_; }
+
+private:
+    void ApplyGeometry();
+
+    FormWindow& form_;
+    ui::Control& control_;
+    int id_;
+    HWND window_ = nullptr;
+    bool detached_ = false;
+};
+
+// The peer for a control of the given kind.
+std::unique_ptr<ControlWindow> MakeControlWindow(FormWindow& form, ui::Control& control, int id);
+
+}  // namespace qs::win

@@ -1,0 +1,54 @@
+#include "form_background.h"
+
+#include <algorithm>
+
+namespace qs::win {
+
+namespace {
+
+BITMAPINFO TopDownInfo(int width, int height) {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof(info.bmiHeader);
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+    return info;
+}
+
+bool SameField(const FieldRect& a, const FieldRect& b) {
+    return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
+}
+
+}  // namespace
+
+bool FormBackground::Same(int width, int height, UINT dpi, const std::vector<FieldRect>& fields) const {
+    return brush_ && image_.width == width && image_.height == height && dpi_ == dpi &&
+           std::equal(fields_.begin(), fields_.end(), fields.begin(), fields.end(), SameField);
+}
+
+void FormBackground::Update(int width, int height, UINT dpi, const std::vector<FieldRect>& fields) {
+    if (width <= 0 || height <= 0 || Same(width, height, dpi, fields)) return;
+    dpi_ = dpi;
+    fields_ = fields;
+    image_ = RenderPencilBar(width, height, static_cast<double>(dpi) / USER_DEFAULT_SCREEN_DPI, fields);
+    const BITMAPINFO info = TopDownInfo(width, height);
+    void* bits = nullptr;
+    bitmap_.Reset(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    if (!bitmap_ || bits == nullptr) {
+        brush_.Reset();
+        return;
+    }
+    std::copy(image_.pixels.begin(), image_.pixels.end(), static_cast<std::uint32_t*>(bits));
+    brush_.Reset(::CreatePatternBrush(bitmap_.Get()));
+}
+
+void FormBackground::PaintTo(HDC dc) const {
+    if (image_.pixels.empty()) return;
+    const BITMAPINFO info = TopDownInfo(image_.width, image_.height);
+    ::SetDIBitsToDevice(dc, 0, 0, static_cast<DWORD>(image_.width), static_cast<DWORD>(image_.height), 0, 0, 0,
+                        static_cast<UINT>(image_.height), image_.pixels.data(), &info, DIB_RGB_COLORS);
+}
+
+}  // namespace qs::win

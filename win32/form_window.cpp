@@ -1,0 +1,379 @@
+#include "form_window.h"
+
+#include <windows.h>
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "dpi.h"
+#include "res/resource_ids.h"
+#include "window_names.h"
+
+namespace qs::win {
+
+namespace {
+
+// Ids of the child windows start here; a timer's id is its control's id.
+constexpr int kFirstControlId = 100;
+
+UINT SurfaceMessage() {
+    static const UINT message = ::RegisterWindowMessageW(kSurfaceMessage);
+    return message;
+}
+
+COLORREF ToColorRef(std::uint32_t rgb) { return RGB((rgb >> 16) & 0xFF, (rgb >> 8) & 0xFF, rgb & 0xFF); }
+
+bool IsBorderless(const ui::Form& form) { return form.Style() == ui::FormStyle::Borderless; }
+
+// The program's own icon at a system size; the stock one where the module
+// carries none.
+HICON ProgramIcon(HINSTANCE instance, int widthMetric, int heightMetric) {
+    const int width = ::GetSystemMetrics(widthMetric);
+    const int height = ::GetSystemMetrics(heightMetric);
+    auto* icon = static_cast<HICON>(
+        ::LoadImageW(instance, MAKEINTRESOURCEW(IDI_QUILLSTART), IMAGE_ICON, width, height, LR_DEFAULTCOLOR | LR_SHARED));
+    return icon != nullptr ? icon : ::LoadIconW(nullptr, IDI_APPLICATION);
+}
+
+bool RunsUnderWine() {
+    const HMODULE ntdll = ::GetModuleHandleW(L"ntdll.dll");
+    return ntdll != nullptr && ::GetProcAddress(ntdll, "wine_get_version") != nullptr;
+}
+
+}  // namespace
+
+void FormWindow::RegisterClasses(HINSTANCE instance) {
+    for (const wchar_t* name : {kBorderlessClass, kDialogClass}) {
+        WNDCLASSEXW windowClass{};
+        windowClass.cbSize = sizeof(windowClass);
+        windowClass.style = CS_DBLCLKS;
+        windowClass.lpfnWndProc = WindowProc;
+        windowClass.hInstance = instance;
+        windowClass.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+        windowClass.hIcon = ProgramIcon(instance, SM_CXICON, SM_CYICON);
+        windowClass.hIconSm = ProgramIcon(instance, SM_CXSMICON, SM_CYSMICON);
+        windowClass.lpszClassName = name;
+        ::RegisterClassExW(&windowClass);
+    }
+}
+
+FormWindow::FormWindow(HINSTANCE instance, ui::Form& form)
+    : form_(form), fieldBrush_(::CreateSolidBrush(ToColorRef(kPencilFieldColor))) {
+    dpi_ = SystemDpi();
+    const bool borderless = IsBorderless(form_);
+    const DWORD style = WS_CLIPCHILDREN | (borderless ? WS_POPUP : WS_POPUP | WS_CAPTION | WS_SYSMENU);
+    const DWORD exStyle = borderless ? 0 : WS_EX_DLGMODALFRAME;
+    ::CreateWindowExW(exStyle, borderless ? kBorderlessClass : kDialogClass, form_.Caption().c_str(), style,
+                      TwipsToPixels(form_.Left(), dpi_), TwipsToPixels(form_.Top(), dpi_),
+                      TwipsToPixels(form_.Width(), dpi_), TwipsToPixels(form_.Height(), dpi_), nullptr, nullptr,
+                      instance, this);
+    if (!window_) return;
+    const UINT actual = WindowDpi(Handle());
+    if (actual != dpi_) {
+        dpi_ = actual;
+        ApplyGeometry();
+    }
+    MakeFont();
+    CreateControls();
+    form_.AttachPeer(this);
+    ApplyTopMost();
+    if (form_.Visible()) ApplyVisible();
+}
+
+FormWindow::~FormWindow() { Detach(); }
+
+void FormWindow::Detach() {
+    if (detached_) return;
+    detached_ = true;
+    for (auto& control : controls_) control->Detach();
+    if (form_.Peer() == this) form_.AttachPeer(nullptr);
+    window_.Reset();
+}
+
+void FormWindow::CreateControls() {
+    int id = kFirstControlId;
+    for (ui::Control* control : form_.Controls()) controls_.push_back(MakeControlWindow(*this, *control, id++));
+    for (auto& control : controls_) control->Create();
+}
+
+ControlWindow* FormWindow::ControlById(int id) const {
+    const int index = id - kFirstControlId;
+    if (index < 0 || index >= static_cast<int>(controls_.size())) return nullptr;
+    return controls_[static_cast<std::size_t>(index)].get();
+}
+
+LONG FormWindow::ClientHeight() const {
+    RECT client{};
+    ::GetClientRect(Handle(), &client);
+    return client.bottom;
+}
+
+void FormWindow::FieldsMoved() {
+    if (Handle() != nullptr) ::InvalidateRect(Handle(), nullptr, FALSE);
+}
+
+void FormWindow::SetToolTip(HWND child, const std::wstring& text) {
+    if (child == nullptr || Handle() == nullptr) return;
+    if (toolTips_ == nullptr) {
+        if (text.empty()) return;
+        toolTips_ = ::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
+                                      CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, Handle(), nullptr,
+                                      ::GetModuleHandleW(nullptr), nullptr);
+        if (toolTips_ == nullptr) return;
+    }
+    TTTOOLINFOW tool{};
+    tool.cbSize = sizeof(tool);
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = Handle();
+    tool.uId = reinterpret_cast<UINT_PTR>(child);
+    ::SendMessageW(toolTips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    if (text.empty()) return;
+    tool.lpszText = const_cast<wchar_t*>(text.c_str());
+    ::SendMessageW(toolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void FormWindow::MakeFont() {
+    LOGFONTW font = MessageFontAt(dpi_);
+    font.lfQuality = CLEARTYPE_QUALITY;
+    font_.Reset(::CreateFontIndirectW(&font));
+    WindowDc dc(Handle());
+    SelectScope select(dc.Get(), font_.Get());
+    TEXTMETRICW metrics{};
+    ::GetTextMetricsW(dc.Get(), &metrics);
+    lineHeight_ = metrics.tmHeight + ::MulDiv(2, static_cast<int>(dpi_), USER_DEFAULT_SCREEN_DPI);
+}
+
+void FormWindow::Changed(ui::Property what) {
+    if (detached_) return;
+    switch (what) {
+        case ui::Property::Text:
+            ::SetWindowTextW(Handle(), form_.Caption().c_str());
+            break;
+        case ui::Property::Geometry:
+            ApplyGeometry();
+            break;
+        case ui::Property::Visible:
+            ApplyVisible();
+            break;
+        case ui::Property::TopMost:
+            ApplyTopMost();
+            break;
+        default:
+            break;
+    }
+}
+
+void FormWindow::ApplyGeometry() {
+    placing_ = true;
+    ::SetWindowPos(Handle(), nullptr, TwipsToPixels(form_.Left(), dpi_), TwipsToPixels(form_.Top(), dpi_),
+                   TwipsToPixels(form_.Width(), dpi_), TwipsToPixels(form_.Height(), dpi_),
+                   SWP_NOZORDER | SWP_NOACTIVATE);
+    placing_ = false;
+    for (auto& control : controls_) control->Relayout();
+    FieldsMoved();
+}
+
+void FormWindow::ApplyVisible() {
+    if (form_.Visible() && form_.IsModal()) {
+        // A modal form belongs to the window it was opened from, so it stays
+        // above it even when that window is topmost.
+        const HWND opener = ::GetActiveWindow();
+        if (opener != nullptr && opener != Handle()) {
+            ::SetWindowLongPtrW(Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(opener));
+        }
+    }
+    ::ShowWindow(Handle(), form_.Visible() ? SW_SHOW : SW_HIDE);
+}
+
+void FormWindow::ApplyTopMost() {
+    ::SetWindowPos(Handle(), form_.TopMost() ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void FormWindow::ApplyDpi(UINT dpi, const RECT* suggested) {
+    dpi_ = dpi;
+    MakeFont();
+    if (suggested != nullptr) {
+        placing_ = true;
+        ::SetWindowPos(Handle(), nullptr, suggested->left, suggested->top, TwipsToPixels(form_.Width(), dpi_),
+                       TwipsToPixels(form_.Height(), dpi_), SWP_NOZORDER | SWP_NOACTIVATE);
+        placing_ = false;
+        ReportMove();
+    }
+    for (auto& control : controls_) control->ApplyDpi();
+    FieldsMoved();
+}
+
+void FormWindow::ReportMove() {
+    RECT r{};
+    ::GetWindowRect(Handle(), &r);
+    form_.UserMoved(PixelsToTwips(r.left, dpi_), PixelsToTwips(r.top, dpi_));
+}
+
+void FormWindow::FocusFirstControl() {
+    for (auto& control : controls_) {
+        const HWND child = control->Handle();
+        if (control->TakesFocus() && child != nullptr && ::IsWindowVisible(child) && ::IsWindowEnabled(child)) {
+            ::SetFocus(child);
+            return;
+        }
+    }
+}
+
+void FormWindow::Surface() {
+    form_.Show();
+    // Under Wine the X window manager decides who is active and refuses a
+    // program's own request; a window it restores from the minimised state
+    // it activates, so there the form goes down and comes back up.
+    const bool wine = RunsUnderWine();
+    if (wine && !::IsIconic(Handle())) ::ShowWindow(Handle(), SW_MINIMIZE);
+    if (wine || ::IsIconic(Handle())) ::ShowWindow(Handle(), SW_RESTORE);
+    ::SetForegroundWindow(Handle());
+    if (lastFocus_ != nullptr && ::IsChild(Handle(), lastFocus_) && ::IsWindowVisible(lastFocus_)) {
+        ::SetFocus(lastFocus_);
+    } else {
+        FocusFirstControl();
+    }
+}
+
+void FormWindow::UpdateBackground() {
+    RECT client{};
+    ::GetClientRect(Handle(), &client);
+    const double scale = static_cast<double>(dpi_) / USER_DEFAULT_SCREEN_DPI;
+    std::vector<FieldRect> fields;
+    for (auto& control : controls_) {
+        const HWND child = control->Handle();
+        if (control->Model().Kind() != ui::ControlKind::TextBox || child == nullptr || !::IsWindowVisible(child)) {
+            continue;
+        }
+        RECT r{};
+        ::GetWindowRect(child, &r);
+        ::MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&r), 2);
+        const double around = 3.0 * scale;
+        const double edgeRoom = 2.0 * scale;
+        fields.push_back({r.left - 4.0 * scale, std::max(edgeRoom, r.top - around), r.right + 2.0 * scale,
+                          std::min(client.bottom - edgeRoom, r.bottom + around)});
+    }
+    background_.Update(client.right, client.bottom, dpi_, fields);
+}
+
+void FormWindow::Paint() {
+    PaintScope paint(Handle());
+    if (!IsBorderless(form_)) {
+        RECT client{};
+        ::GetClientRect(Handle(), &client);
+        ::FillRect(paint.Get(), &client, ::GetSysColorBrush(COLOR_BTNFACE));
+        return;
+    }
+    UpdateBackground();
+    background_.PaintTo(paint.Get());
+}
+
+LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND window = Handle();
+    if (message == SurfaceMessage()) {
+        Surface();
+        return 1;
+    }
+    switch (message) {
+        case WM_PAINT:
+            Paint();
+            return 0;
+        case WM_ERASEBKGND:
+            return 1;
+        case WM_SIZE:
+            FieldsMoved();
+            break;
+        case WM_CTLCOLOREDIT:
+        case WM_CTLCOLORSTATIC: {
+            if (!IsBorderless(form_)) break;
+            const auto dc = reinterpret_cast<HDC>(wParam);
+            const ControlWindow* control = ControlById(::GetDlgCtrlID(reinterpret_cast<HWND>(lParam)));
+            ::SetTextColor(dc, ToColorRef(kPencilTextColor));
+            if (control != nullptr && control->Model().Kind() == ui::ControlKind::TextBox) {
+                ::SetBkColor(dc, ToColorRef(kPencilFieldColor));
+                return reinterpret_cast<LRESULT>(fieldBrush_.Get());
+            }
+            // Anything else shows the part of the picture it covers.
+            UpdateBackground();
+            RECT r{};
+            ::GetWindowRect(reinterpret_cast<HWND>(lParam), &r);
+            ::MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&r), 2);
+            ::SetBrushOrgEx(dc, -r.left, -r.top, nullptr);
+            ::SetBkMode(dc, TRANSPARENT);
+            return reinterpret_cast<LRESULT>(background_.Brush());
+        }
+        case WM_COMMAND:
+            if (lParam != 0) {
+                if (ControlWindow* control = ControlById(LOWORD(wParam))) control->OnCommand(HIWORD(wParam));
+                return 0;
+            }
+            break;
+        case WM_TIMER:
+            if (ControlWindow* control = ControlById(static_cast<int>(wParam))) {
+                control->OnTimer();
+                return 0;
+            }
+            break;
+        case WM_LBUTTONDOWN:
+            if (IsBorderless(form_)) {
+                // The body of a borderless form is its caption: dragging it
+                // moves the window.
+                ::ReleaseCapture();
+                ::SendMessageW(window, WM_NCLBUTTONDOWN, HTCAPTION, 0);
+                return 0;
+            }
+            break;
+        case WM_WINDOWPOSCHANGED: {
+            const auto* position = reinterpret_cast<const WINDOWPOS*>(lParam);
+            if ((position->flags & SWP_NOMOVE) == 0 && !placing_ && !detached_) ReportMove();
+            break;
+        }
+        case WM_ACTIVATE:
+            if (LOWORD(wParam) == WA_INACTIVE) {
+                const HWND focus = ::GetFocus();
+                if (focus != nullptr && ::IsChild(window, focus)) lastFocus_ = focus;
+                return 0;
+            }
+            if (lastFocus_ != nullptr && ::IsChild(window, lastFocus_) && ::IsWindowVisible(lastFocus_)) {
+                ::SetFocus(lastFocus_);
+            } else {
+                FocusFirstControl();
+            }
+            return 0;
+        case WM_DPICHANGED:
+            ApplyDpi(HIWORD(wParam), reinterpret_cast<const RECT*>(lParam));
+            return 0;
+        case WM_CLOSE:
+            form_.Unload();
+            return 0;
+        default:
+            break;
+    }
+    return ::DefWindowProcW(window, message, wParam, lParam);
+}
+
+LRESULT CALLBACK FormWindow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NCCREATE) {
+        auto* self = static_cast<FormWindow*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+        self->window_.Reset(window);
+        ::SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
+        return ::DefWindowProcW(window, message, wParam, lParam);
+    }
+    auto* self = reinterpret_cast<FormWindow*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (message == WM_NCDESTROY) {
+        ::SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+        if (self != nullptr) self->window_.Release();
+        return ::DefWindowProcW(window, message, wParam, lParam);
+    }
+    if (self == nullptr || self->detached_) return ::DefWindowProcW(window, message, wParam, lParam);
+    try {
+        return self->HandleMessage(message, wParam, lParam);
+    } catch (...) {
+        // Every failure stops here: the program's windows never take the
+        // process down.
+        return 0;
+    }
+}
+
+}  // namespace qs::win

@@ -1,0 +1,82 @@
+#pragma once
+// The top-level window of a loaded form and the peers of its controls. A
+// borderless form is a popup that the user drags by its body; a dialog form
+// is a captioned popup. Geometry is kept in twips by the form and turned
+// into pixels at the window's DPI.
+#include <windows.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "control_window.h"
+#include "form_background.h"
+#include "handles.h"
+#include "ui/form.h"
+
+namespace qs::win {
+
+class FormWindow : public ui::FormPeer {
+public:
+    FormWindow(HINSTANCE instance, ui::Form& form);
+    FormWindow(const FormWindow&) = delete;
+    FormWindow& operator=(const FormWindow&) = delete;
+    ~FormWindow() override;
+
+    // Registers the window classes of both form styles; once per process.
+    static void RegisterClasses(HINSTANCE instance);
+
+    void Changed(ui::Property what) override;
+
+    ui::Form& Model() const { return form_; }
+    HWND Handle() const { return window_.Get(); }
+    UINT Dpi() const { return dpi_; }
+    HFONT Font() const { return font_.Get(); }
+    // Height of one line of the form's font in a single-line box.
+    LONG LineHeight() const { return lineHeight_; }
+    LONG ClientHeight() const;
+    // A text box moved or showed: the fields behind them are repainted.
+    void FieldsMoved();
+    // Shows the text as the tip of a child window; "" removes the tip.
+    void SetToolTip(HWND child, const std::wstring& text);
+
+    // Cuts every tie to the form and its controls and destroys the window.
+    void Detach();
+    // Brings the form up for the user: shown, restored, in front, with the
+    // keyboard focus on its last focused control or its first text box.
+    void Surface();
+
+private:
+    static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+    void CreateControls();
+    void ApplyGeometry();
+    void ApplyVisible();
+    void ApplyTopMost();
+    void ApplyDpi(UINT dpi, const RECT* suggested);
+    void MakeFont();
+    void Paint();
+    // The picture for the form's present size, DPI and text boxes.
+    void UpdateBackground();
+    void FocusFirstControl();
+    ControlWindow* ControlById(int id) const;
+    void ReportMove();
+
+    ui::Form& form_;
+    WindowHandle window_;
+    FontHandle font_;
+    BrushHandle fieldBrush_;
+    FormBackground background_;
+    UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
+    LONG lineHeight_ = 0;
+    std::vector<std::unique_ptr<ControlWindow>> controls_;
+    HWND lastFocus_ = nullptr;
+    // The form's tooltip window, made at the first tip; owned by the form's window.
+    HWND toolTips_ = nullptr;
+    // True while the form's own geometry is written to the window.
+    bool placing_ = false;
+    bool detached_ = false;
+};
+
+}  // namespace qs::win

@@ -1,0 +1,47 @@
+#include "control_kinds.h"
+
+namespace qs::win {
+
+void ListBoxWindow::Create() {
+    if (!list_.Visible() || Handle() != nullptr) return;
+    CreateChild(L"LISTBOX", WS_VSCROLL | WS_TABSTOP | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT, WS_EX_CLIENTEDGE);
+    if (Handle() == nullptr) return;
+    WriteItems();
+}
+
+void ListBoxWindow::OnChanged(ui::Property what) {
+    switch (what) {
+        case ui::Property::Visible:
+            if (list_.Visible() && Handle() == nullptr) Create();
+            break;
+        case ui::Property::Items:
+            if (Handle() != nullptr) WriteItems();
+            break;
+        case ui::Property::ListIndex:
+            if (Handle() != nullptr) WriteIndex();
+            break;
+        default:
+            break;
+    }
+}
+
+void ListBoxWindow::WriteItems() {
+    ::SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
+    ::SendMessageW(Handle(), LB_RESETCONTENT, 0, 0);
+    for (const std::wstring& item : list_.Items()) {
+        ::SendMessageW(Handle(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.c_str()));
+    }
+    WriteIndex();
+    ::SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);
+    ::InvalidateRect(Handle(), nullptr, TRUE);
+}
+
+void ListBoxWindow::WriteIndex() { ::SendMessageW(Handle(), LB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()), 0); }
+
+void ListBoxWindow::OnCommand(WORD code) {
+    if (code != LBN_SELCHANGE || Handle() == nullptr) return;
+    const LRESULT index = ::SendMessageW(Handle(), LB_GETCURSEL, 0, 0);
+    list_.UserSelected(index == LB_ERR ? -1 : static_cast<std::int32_t>(index));
+}
+
+}  // namespace qs::win

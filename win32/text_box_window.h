@@ -1,0 +1,38 @@
+#pragma once
+// A text box as an EDIT control. The user's keys go to the control's
+// KeyPress first, which may swallow them; edits and selection moves are
+// reported back; text and selection written by code are mirrored without
+// echoing a change back.
+#include "control_window.h"
+#include "ui/text_box.h"
+
+namespace qs::win {
+
+class TextBoxWindow : public ControlWindow {
+public:
+    TextBoxWindow(FormWindow& form, ui::TextBox& box, int id);
+
+    void Create() override;
+    void OnCommand(WORD code) override;
+    bool TakesFocus() const override { return true; }
+
+protected:
+    void OnChanged(ui::Property what) override;
+    RECT PixelRect() const override;
+
+private:
+    static LRESULT CALLBACK EditProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                     DWORD_PTR self);
+    LRESULT HandleEdit(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT HandleChar(WPARAM wParam, LPARAM lParam);
+    void WriteText();
+    void WriteSelection();
+    // Tells the control where the selection now is, if the window moved it.
+    void ReportSelection();
+
+    ui::TextBox& box_;
+    // True while code writes the window's text, so its EN_CHANGE is no edit.
+    bool writing_ = false;
+};
+
+}  // namespace qs::win

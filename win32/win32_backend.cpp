@@ -1,0 +1,119 @@
+#include "win32_backend.h"
+
+#include <algorithm>
+
+#include "form_window.h"
+#include "ui/form.h"
+
+namespace qs::win {
+
+namespace {
+
+// The enabled, visible top-level windows of this thread but one.
+std::vector<HWND> OtherEnabledWindows(HWND except) {
+    struct Search {
+        HWND except;
+        std::vector<HWND> found;
+    } search{except, {}};
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM data) -> BOOL {
+            auto* s = reinterpret_cast<Search*>(data);
+            if (window != s->except && ::IsWindowVisible(window) && ::IsWindowEnabled(window)) {
+                s->found.push_back(window);
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+}  // namespace
+
+Win32Backend::Win32Backend(HINSTANCE instance) : instance_(instance) { FormWindow::RegisterClasses(instance); }
+
+Win32Backend::~Win32Backend() {
+    windows_.clear();
+    unloaded_.clear();
+}
+
+void Win32Backend::FormLoaded(ui::Form& form) {
+    auto window = std::make_unique<FormWindow>(instance_, form);
+    windows_[&form] = std::move(window);
+}
+
+void Win32Backend::FormUnloaded(ui::Form& form) {
+    const auto found = windows_.find(&form);
+    if (found == windows_.end()) return;
+    // The form may be unloaded from inside one of its own window's messages,
+    // so the peer object lives on until that message has returned.
+    found->second->Detach();
+    unloaded_.push_back(std::move(found->second));
+    windows_.erase(found);
+    // As with every program of its kind: when no form is left, the program ends.
+    if (windows_.empty()) ::PostQuitMessage(0);
+}
+
+HWND Win32Backend::WindowOf(const ui::Form& form) const {
+    const auto found = windows_.find(&form);
+    return found == windows_.end() ? nullptr : found->second->Handle();
+}
+
+bool Win32Backend::MoveFocusByKey(const MSG& message) const {
+    if (message.message != WM_KEYDOWN || message.wParam != VK_TAB || message.hwnd == nullptr) return false;
+    if ((::GetKeyState(VK_CONTROL) & 0x8000) != 0 || (::GetKeyState(VK_MENU) & 0x8000) != 0) return false;
+    const HWND form = ::GetAncestor(message.hwnd, GA_ROOT);
+    const bool ours = std::any_of(windows_.begin(), windows_.end(),
+                                  [form](const auto& entry) { return entry.second->Handle() == form; });
+    if (!ours || form == message.hwnd) return false;
+    const bool backward = (::GetKeyState(VK_SHIFT) & 0x8000) != 0;
+    const HWND next = ::GetNextDlgTabItem(form, message.hwnd, backward ? TRUE : FALSE);
+    if (next == nullptr || next == message.hwnd) return false;
+    ::SetFocus(next);
+    return true;
+}
+
+bool Win32Backend::PumpOne(MSG& message) {
+    const BOOL got = ::GetMessageW(&message, nullptr, 0, 0);
+    if (got == 0 || got == -1) return false;
+    if (MoveFocusByKey(message)) return true;
+    ::TranslateMessage(&message);
+    ::DispatchMessageW(&message);
+    ReleaseUnloaded();
+    return true;
+}
+
+void Win32Backend::ReleaseUnloaded() {
+    if (modalDepth_ == 0) unloaded_.clear();
+}
+
+int Win32Backend::RunMessageLoop() {
+    MSG message{};
+    while (PumpOne(message)) {
+    }
+    return message.message == WM_QUIT ? static_cast<int>(message.wParam) : 0;
+}
+
+void Win32Backend::RunModal(ui::Form& form) {
+    const HWND modal = WindowOf(form);
+    const std::vector<HWND> disabled = OtherEnabledWindows(modal);
+    for (HWND window : disabled) ::EnableWindow(window, FALSE);
+    if (modal != nullptr) ::SetForegroundWindow(modal);
+    MSG message{};
+    bool quit = false;
+    ++modalDepth_;
+    while (form.IsLoaded() && form.Visible()) {
+        if (!PumpOne(message)) {
+            quit = message.message == WM_QUIT;
+            break;
+        }
+    }
+    --modalDepth_;
+    for (HWND window : disabled) {
+        if (::IsWindow(window)) ::EnableWindow(window, TRUE);
+    }
+    // The outer loop must see the quit too.
+    if (quit) ::PostQuitMessage(static_cast<int>(message.wParam));
+}
+
+}  // namespace qs::win

@@ -1,0 +1,51 @@
+#pragma once
+// Real windows for the program's forms, and the message loops.
+#include <windows.h>
+
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "ui/backend.h"
+
+namespace qs::win {
+
+class FormWindow;
+
+class Win32Backend : public ui::Backend {
+public:
+    explicit Win32Backend(HINSTANCE instance);
+    Win32Backend(const Win32Backend&) = delete;
+    Win32Backend& operator=(const Win32Backend&) = delete;
+    ~Win32Backend() override;
+
+    void FormLoaded(ui::Form& form) override;
+    void FormUnloaded(ui::Form& form) override;
+    void RunModal(ui::Form& form) override;
+
+    // The window of a loaded form; null when it has none.
+    HWND WindowOf(const ui::Form& form) const;
+
+    // Runs the program's message loop until the last form is unloaded or
+    // the loop is told to quit; returns the exit code.
+    int RunMessageLoop();
+
+    // Tab and Shift+Tab move the focus among the controls of a form, as in
+    // a dialog; true when the key was used so.
+    bool MoveFocusByKey(const MSG& message) const;
+
+private:
+    // One message through the loop; false once the loop is to end.
+    bool PumpOne(MSG& message);
+    // Frees the windows of forms unloaded while their own messages ran.
+    void ReleaseUnloaded();
+
+    HINSTANCE instance_;
+    std::map<const ui::Form*, std::unique_ptr<FormWindow>> windows_;
+    std::vector<std::unique_ptr<FormWindow>> unloaded_;
+    // How many modal loops run; unloaded windows are freed only outside them,
+    // when no window procedure of theirs can still be on the stack.
+    int modalDepth_ = 0;
+};
+
+}  // namespace qs::win

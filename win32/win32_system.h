@@ -1,0 +1,53 @@
+#pragma once
+// The operating-system services of the program, from Windows.
+#include "handles.h"
+#include "platform/system.h"
+
+namespace qs::win {
+
+class Win32System : public System {
+public:
+    std::int32_t ShellOpen(const std::wstring& target) override;
+    void ShellRun(const std::wstring& commandLine) override;
+    std::wstring SpecialFolder(const std::wstring& key) override;
+    std::wstring WindowsDirectory() override;
+    std::wstring Environment(const std::wstring& name) override;
+
+    void RegWrite(const std::wstring& key, const std::wstring& value) override;
+    std::wstring RegRead(const std::wstring& key) override;
+    void RegDelete(const std::wstring& key) override;
+
+    std::wstring GetDriveName(const std::wstring& path) override;
+    DriveInfo GetDrive(const std::wstring& driveName) override;
+    bool FileExists(const std::wstring& path) override;
+    bool FolderExists(const std::wstring& path) override;
+    void CreateFolder(const std::wstring& path) override;
+    std::int32_t GetAttributes(const std::wstring& path) override;
+    void DeleteFile(const std::wstring& path) override;
+    std::wstring ReadTextFile(const std::wstring& path) override;
+    void WriteTextFile(const std::wstring& path, const std::wstring& text) override;
+
+    std::wstring ApplicationFolder() override;
+    bool AnotherCopyRunning() override;
+    void SurfaceRunningCopy() override;
+
+    std::int32_t ScreenWidthTwips() override;
+    std::int32_t ScreenHeightTwips() override;
+    std::int32_t TwipsPerPixelX() override;
+    std::int32_t TwipsPerPixelY() override;
+    PixelRect WorkArea() override;
+
+    CalendarDate Today() override;
+
+    void StartScreenSaver() override;
+    void CreateShortcut(const ShortcutSpec& shortcut) override;
+
+    [[noreturn]] void EndProgram() override;
+
+private:
+    // The single-instance mutex, held from the first check to the end.
+    KernelHandle runningMutex_;
+    bool anotherCopy_ = false;
+};
+
+}  // namespace qs::win
