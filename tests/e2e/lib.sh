@@ -142,7 +142,7 @@ e2e_command() {
 }
 
 e2e_log_has() {
-  [ -f "$(e2e_launch_log)" ] && grep -qiF -- "$1" "$(e2e_launch_log)"
+  [ -f "$(e2e_launch_log)" ] && grep -qF -- "$1" "$(e2e_launch_log)"
 }
 
 e2e_log_lines() {
