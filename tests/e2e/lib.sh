@@ -59,6 +59,11 @@ e2e_setup_prefix() {
   ln -sfn "$E2E_WORK/stick" "$WINEPREFIX/dosdevices/e:"
   e2e_registry_file >"$E2E_WORK/associations.reg"
   wine regedit /S "$(winepath -w "$E2E_WORK/associations.reg" 2>/dev/null)" >"$E2E_WORK/regedit.log" 2>&1
+  local key
+  for key in http https mailto txtfile; do
+    wine reg query "HKLM\\Software\\Classes\\$key\\shell\\open\\command" /ve >"$E2E_WORK/reg.out" 2>&1
+    grep -qF 'C:\rec\recorder.exe' "$E2E_WORK/reg.out" || e2e_fail "the $key association did not reach the registry" || return 1
+  done
   # The drive type is read when the server starts.
   qs_stop_wine
   qs_start_wineserver
