@@ -91,6 +91,7 @@ if qs_start_display "$work" && qs_new_prefix "$work/prefix" "$work/wineboot.log"
   fi
   qs_stop_wine
   qs_stop_display
+  rm -rf "$WINEPREFIX"
 else
   level_result "(b) unit tests, Windows (no Wine session)" 0 1
 fi
