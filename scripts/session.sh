@@ -46,7 +46,8 @@ qs_start_display() {
     Xvfb ":$n" -screen 0 1280x800x24 -nolisten tcp >"$logs/xvfb.log" 2>&1 &
     QS_XVFB_PID=$!
     export DISPLAY=":$n"
-    if qs_poll 10 qs_display_answers; then
+    # The display must answer, and it must be our server that answers.
+    if qs_poll 10 qs_display_answers && kill -0 "$QS_XVFB_PID" 2>/dev/null; then
       openbox >"$logs/openbox.log" 2>&1 &
       QS_WM_PID=$!
       qs_poll 10 qs_wm_answers && return 0

@@ -77,7 +77,7 @@ echo "== (b) unit tests, Windows build under Wine"
 unit_exe=$QS_WIN_BUILD/tests/quill_unit_tests.exe
 if qs_start_display "$work" && qs_new_prefix "$work/prefix" "$work/wineboot.log"; then
   qs_start_wineserver
-  timeout 600 wine "$unit_exe" >"$work/unit-wine.log" 2>&1
+  timeout 300 wine "$unit_exe" >"$work/unit-wine.log" 2>&1
   tr -d '\r' <"$work/unit-wine.log" >"$work/unit-wine.txt"
   grep -E '^\[ *(FAILED|PASSED|==========) *\]' "$work/unit-wine.txt"
   ran=$(sed -nE 's/^\[==========\] ([0-9]+) tests? from .* ran\..*/\1/p' "$work/unit-wine.txt" | tail -1)
@@ -91,6 +91,7 @@ if qs_start_display "$work" && qs_new_prefix "$work/prefix" "$work/wineboot.log"
   fi
   qs_stop_wine
   qs_stop_display
+  rm -rf "$WINEPREFIX"
 else
   level_result "(b) unit tests, Windows (no Wine session)" 0 1
 fi

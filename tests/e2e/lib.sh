@@ -59,6 +59,11 @@ e2e_setup_prefix() {
   ln -sfn "$E2E_WORK/stick" "$WINEPREFIX/dosdevices/e:"
   e2e_registry_file >"$E2E_WORK/associations.reg"
   wine regedit /S "$(winepath -w "$E2E_WORK/associations.reg" 2>/dev/null)" >"$E2E_WORK/regedit.log" 2>&1
+  local key
+  for key in http https mailto txtfile; do
+    wine reg query "HKLM\\Software\\Classes\\$key\\shell\\open\\command" /ve >"$E2E_WORK/reg.out" 2>&1
+    grep -qF 'C:\rec\recorder.exe' "$E2E_WORK/reg.out" || e2e_fail "the $key association did not reach the registry" || return 1
+  done
   # The drive type is read when the server starts.
   qs_stop_wine
   qs_start_wineserver
@@ -142,7 +147,7 @@ e2e_command() {
 }
 
 e2e_log_has() {
-  [ -f "$(e2e_launch_log)" ] && grep -qiF -- "$1" "$(e2e_launch_log)"
+  [ -f "$(e2e_launch_log)" ] && grep -qF -- "$1" "$(e2e_launch_log)"
 }
 
 e2e_log_lines() {
@@ -193,16 +198,30 @@ e2e_screenshot() {
 }
 
 # Runs every registered scenario in a clean Wine session and prints
-# PASS or FAIL with its name, then "N passed, M failed".
+# PASS or FAIL with its name, then "N passed, M failed". Once the bar has
+# failed to appear three times, the remaining scenarios fail at once rather
+# than each waiting out the same time limit.
 e2e_run_all() {
-  local passed=0 failed=0 i name began
+  local passed=0 failed=0 no_bar=0 i name began
   for i in "${!E2E_SCENARIOS[@]}"; do
     name=${E2E_SCENARIOS[$i]}
+    if [ "$no_bar" -ge 3 ]; then
+      echo "FAIL  $name: not run, the bar did not appear in three scenarios"
+      failed=$((failed + 1))
+      continue
+    fi
     E2E_REASON=""
     E2E_SHOT_PREFIX=$(printf '%02d-%s' "$((i + 1))" "${E2E_FUNCTIONS[$i]}")
     e2e_reset
     began=$SECONDS
-    if e2e_start_quillstart && e2e_screenshot started && "${E2E_FUNCTIONS[$i]}"; then
+    if ! e2e_start_quillstart; then
+      no_bar=$((no_bar + 1))
+      e2e_screenshot failed
+      echo "FAIL  $name: $E2E_REASON ($((SECONDS - began)) s)"
+      failed=$((failed + 1))
+      continue
+    fi
+    if e2e_screenshot started && "${E2E_FUNCTIONS[$i]}"; then
       e2e_screenshot "done"
       echo "PASS  $name ($((SECONDS - began)) s)"
       passed=$((passed + 1))

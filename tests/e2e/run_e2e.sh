@@ -31,6 +31,8 @@ source tests/e2e/lib.sh
 source tests/e2e/scenarios_web.sh
 # shellcheck source=scenarios_shell.sh
 source tests/e2e/scenarios_shell.sh
+# shellcheck source=scenarios_keys.sh
+source tests/e2e/scenarios_keys.sh
 
 finish() {
   qs_stop_wine

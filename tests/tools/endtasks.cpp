@@ -7,6 +7,7 @@
 #include <tlhelp32.h>
 
 #include <cstdio>
+#include <iterator>
 #include <set>
 #include <string>
 #include <vector>

@@ -4,6 +4,7 @@
 // C:\rec\launches.log.
 #include <windows.h>
 
+#include <iterator>
 #include <string>
 
 #include "unique_handle.h"
