@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "dialog_look.h"
 #include "dpi.h"
 #include "res/resource_ids.h"
 #include "window_names.h"
@@ -58,12 +59,15 @@ void FormWindow::RegisterClasses(HINSTANCE instance) {
 }
 
 FormWindow::FormWindow(HINSTANCE instance, ui::Form& form)
-    : form_(form), fieldBrush_(::CreateSolidBrush(ToColorRef(kPencilFieldColor))) {
+    : form_(form),
+      fieldBrush_(::CreateSolidBrush(ToColorRef(IsBorderless(form) ? kPencilFieldColor : kDialogFieldColor))),
+      faceBrush_(::CreateSolidBrush(ToColorRef(kDialogFaceColor))),
+      borderBrush_(::CreateSolidBrush(ToColorRef(kDialogBorderColor))) {
     dpi_ = SystemDpi();
     const bool borderless = IsBorderless(form_);
-    const DWORD style = WS_CLIPCHILDREN | (borderless ? WS_POPUP : WS_POPUP | WS_CAPTION | WS_SYSMENU);
-    const DWORD exStyle = borderless ? 0 : WS_EX_DLGMODALFRAME;
-    ::CreateWindowExW(exStyle, borderless ? kBorderlessClass : kDialogClass, form_.Caption().c_str(), style,
+    // Neither style has a caption or a close box: a dialog's title is a
+    // label of its own, and only its own buttons answer it.
+    ::CreateWindowExW(0, borderless ? kBorderlessClass : kDialogClass, form_.Caption().c_str(), WS_POPUP | WS_CLIPCHILDREN,
                       TwipsToPixels(form_.Left(), dpi_), TwipsToPixels(form_.Top(), dpi_),
                       TwipsToPixels(form_.Width(), dpi_), TwipsToPixels(form_.Height(), dpi_), nullptr, nullptr,
                       instance, this);
@@ -94,6 +98,25 @@ void FormWindow::CreateControls() {
     int id = kFirstControlId;
     for (ui::Control* control : form_.Controls()) controls_.push_back(MakeControlWindow(*this, *control, id++));
     for (auto& control : controls_) control->Create();
+    OrderByTabIndex();
+}
+
+void FormWindow::OrderByTabIndex() {
+    // Tab and Shift+Tab follow the order of the child windows, so the
+    // windows are put in the order of their controls' tab indexes; equal
+    // indexes keep the order in which the controls were made.
+    std::vector<ControlWindow*> order;
+    for (auto& control : controls_) {
+        if (control->Handle() != nullptr) order.push_back(control.get());
+    }
+    std::stable_sort(order.begin(), order.end(), [](const ControlWindow* a, const ControlWindow* b) {
+        return a->Model().TabIndex() < b->Model().TabIndex();
+    });
+    HWND after = HWND_TOP;
+    for (const ControlWindow* control : order) {
+        ::SetWindowPos(control->Handle(), after, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        after = control->Handle();
+    }
 }
 
 ControlWindow* FormWindow::ControlById(int id) const {
@@ -210,6 +233,16 @@ void FormWindow::ReportMove() {
     form_.UserMoved(PixelsToTwips(r.left, dpi_), PixelsToTwips(r.top, dpi_));
 }
 
+LRESULT FormWindow::DialogColors(HDC dc, const ControlWindow* control) const {
+    ::SetTextColor(dc, ToColorRef(kDialogTextColor));
+    if (control != nullptr && control->Model().Kind() == ui::ControlKind::TextBox) {
+        ::SetBkColor(dc, ToColorRef(kDialogFieldColor));
+        return reinterpret_cast<LRESULT>(fieldBrush_.Get());
+    }
+    ::SetBkColor(dc, ToColorRef(kDialogFaceColor));
+    return reinterpret_cast<LRESULT>(faceBrush_.Get());
+}
+
 void FormWindow::FocusFirstControl() {
     for (auto& control : controls_) {
         const HWND child = control->Handle();
@@ -262,7 +295,9 @@ void FormWindow::Paint() {
     if (!IsBorderless(form_)) {
         RECT client{};
         ::GetClientRect(Handle(), &client);
-        ::FillRect(paint.Get(), &client, ::GetSysColorBrush(COLOR_BTNFACE));
+        ::FillRect(paint.Get(), &client, faceBrush_.Get());
+        // A thin line all round sets the dialog off from what lies behind it.
+        ::FrameRect(paint.Get(), &client, borderBrush_.Get());
         return;
     }
     UpdateBackground();
@@ -285,10 +320,11 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             FieldsMoved();
             break;
         case WM_CTLCOLOREDIT:
-        case WM_CTLCOLORSTATIC: {
-            if (!IsBorderless(form_)) break;
+        case WM_CTLCOLORSTATIC:
+        case WM_CTLCOLORBTN: {
             const auto dc = reinterpret_cast<HDC>(wParam);
             const ControlWindow* control = ControlById(::GetDlgCtrlID(reinterpret_cast<HWND>(lParam)));
+            if (!IsBorderless(form_)) return DialogColors(dc, control);
             ::SetTextColor(dc, ToColorRef(kPencilTextColor));
             if (control != nullptr && control->Model().Kind() == ui::ControlKind::TextBox) {
                 ::SetBkColor(dc, ToColorRef(kPencilFieldColor));
@@ -316,14 +352,10 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             }
             break;
         case WM_LBUTTONDOWN:
-            if (IsBorderless(form_)) {
-                // The body of a borderless form is its caption: dragging it
-                // moves the window.
-                ::ReleaseCapture();
-                ::SendMessageW(window, WM_NCLBUTTONDOWN, HTCAPTION, 0);
-                return 0;
-            }
-            break;
+            // The body of a form is its caption: dragging it moves the window.
+            ::ReleaseCapture();
+            ::SendMessageW(window, WM_NCLBUTTONDOWN, HTCAPTION, 0);
+            return 0;
         case WM_WINDOWPOSCHANGED: {
             const auto* position = reinterpret_cast<const WINDOWPOS*>(lParam);
             if ((position->flags & SWP_NOMOVE) == 0 && !placing_ && !detached_) ReportMove();

@@ -1,7 +1,8 @@
 #pragma once
-// The top-level window of a loaded form and the peers of its controls. A
-// borderless form is a popup that the user drags by its body; a dialog form
-// is a captioned popup. Geometry is kept in twips by the form and turned
+// The top-level window of a loaded form and the peers of its controls. Every
+// form is a popup without caption that the user drags by its body: a
+// borderless form shows the bar's picture, a dialog form a light face with a
+// thin line round it. Geometry is kept in twips by the form and turned
 // into pixels at the window's DPI.
 #include <windows.h>
 
@@ -37,6 +38,8 @@ public:
     LONG ClientHeight() const;
     // A text box moved or showed: the fields behind them are repainted.
     void FieldsMoved();
+    // Puts the child windows in the order of their controls' tab indexes.
+    void OrderByTabIndex();
     // Shows the text as the tip of a child window; "" removes the tip.
     void SetToolTip(HWND child, const std::wstring& text);
 
@@ -59,6 +62,8 @@ private:
     void Paint();
     // The picture for the form's present size, DPI and text boxes.
     void UpdateBackground();
+    // Text and background of a control on a dialog form.
+    LRESULT DialogColors(HDC dc, const ControlWindow* control) const;
     void FocusFirstControl();
     ControlWindow* ControlById(int id) const;
     void ReportMove();
@@ -67,6 +72,8 @@ private:
     WindowHandle window_;
     FontHandle font_;
     BrushHandle fieldBrush_;
+    BrushHandle faceBrush_;
+    BrushHandle borderBrush_;
     FormBackground background_;
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     LONG lineHeight_ = 0;

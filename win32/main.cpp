@@ -45,6 +45,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
     qs::win::Win32Backend backend(instance);
     app.AttachBackend(&backend);
 
+    app.place.UserNameEnv = system.Environment(L"username");
+    app.place.ComputerName = system.Environment(L"computername");
     app.WindowsFolder = system.WindowsDirectory() + L"\\";
     app.ProgramFolder = system.ApplicationFolder();
     app.ProgramFile = app.ProgramFolder + L"Quillstart.exe";

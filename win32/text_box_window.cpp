@@ -31,6 +31,9 @@ void TextBoxWindow::Create() {
         style |= ES_AUTOHSCROLL;
     }
     if (box_.Locked()) style |= ES_READONLY;
+    // On a dialog's flat face a box has a thin line around it; on the bar it
+    // sits in a field of the picture.
+    if (Form().Model().Style() == ui::FormStyle::Dialog) style |= WS_BORDER;
     CreateChild(L"EDIT", style);
     if (Handle() == nullptr) return;
     ::SetWindowSubclass(Handle(), EditProc, 1, reinterpret_cast<DWORD_PTR>(this));

@@ -31,6 +31,7 @@ source tests/e2e/lib.sh
 source tests/e2e/scenarios_web.sh
 # shellcheck source=scenarios_shell.sh
 source tests/e2e/scenarios_shell.sh
+source tests/e2e/scenarios_dialog.sh
 
 finish() {
   qs_stop_wine
