@@ -62,7 +62,8 @@ FormWindow::FormWindow(HINSTANCE instance, ui::Form& form)
     : form_(form),
       fieldBrush_(::CreateSolidBrush(ToColorRef(IsBorderless(form) ? kPencilFieldColor : kDialogFieldColor))),
       faceBrush_(::CreateSolidBrush(ToColorRef(kDialogFaceColor))),
-      borderBrush_(::CreateSolidBrush(ToColorRef(kDialogBorderColor))) {
+      borderBrush_(::CreateSolidBrush(ToColorRef(kDialogBorderColor))),
+      fieldLineBrush_(::CreateSolidBrush(ToColorRef(kDialogFieldLineColor))) {
     dpi_ = SystemDpi();
     const bool borderless = IsBorderless(form_);
     // Neither style has a caption or a close box: a dialog's title is a
@@ -269,12 +270,9 @@ void FormWindow::Surface() {
     }
 }
 
-void FormWindow::UpdateBackground() {
-    RECT client{};
-    ::GetClientRect(Handle(), &client);
-    const double scale = static_cast<double>(dpi_) / USER_DEFAULT_SCREEN_DPI;
-    std::vector<FieldRect> fields;
-    for (auto& control : controls_) {
+std::vector<RECT> FormWindow::VisibleTextBoxes() const {
+    std::vector<RECT> boxes;
+    for (const auto& control : controls_) {
         const HWND child = control->Handle();
         if (control->Model().Kind() != ui::ControlKind::TextBox || child == nullptr || !::IsWindowVisible(child)) {
             continue;
@@ -282,6 +280,17 @@ void FormWindow::UpdateBackground() {
         RECT r{};
         ::GetWindowRect(child, &r);
         ::MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&r), 2);
+        boxes.push_back(r);
+    }
+    return boxes;
+}
+
+void FormWindow::UpdateBackground() {
+    RECT client{};
+    ::GetClientRect(Handle(), &client);
+    const double scale = static_cast<double>(dpi_) / USER_DEFAULT_SCREEN_DPI;
+    std::vector<FieldRect> fields;
+    for (const RECT& r : VisibleTextBoxes()) {
         const double around = 3.0 * scale;
         const double edgeRoom = 2.0 * scale;
         fields.push_back({r.left - 4.0 * scale, std::max(edgeRoom, r.top - around), r.right + 2.0 * scale,
@@ -296,8 +305,14 @@ void FormWindow::Paint() {
         RECT client{};
         ::GetClientRect(Handle(), &client);
         ::FillRect(paint.Get(), &client, faceBrush_.Get());
-        // A thin line all round sets the dialog off from what lies behind it.
+        // A thin line all round sets the dialog off from what lies behind
+        // it, and one round each text box marks its field.
         ::FrameRect(paint.Get(), &client, borderBrush_.Get());
+        for (const RECT& field : VisibleTextBoxes()) {
+            RECT line = field;
+            ::InflateRect(&line, 1, 1);
+            ::FrameRect(paint.Get(), &line, fieldLineBrush_.Get());
+        }
         return;
     }
     UpdateBackground();

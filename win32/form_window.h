@@ -60,6 +60,8 @@ private:
     void ApplyDpi(UINT dpi, const RECT* suggested);
     void MakeFont();
     void Paint();
+    // Where the shown text boxes lie, in the form's client pixels.
+    std::vector<RECT> VisibleTextBoxes() const;
     // The picture for the form's present size, DPI and text boxes.
     void UpdateBackground();
     // Text and background of a control on a dialog form.
@@ -74,6 +76,7 @@ private:
     BrushHandle fieldBrush_;
     BrushHandle faceBrush_;
     BrushHandle borderBrush_;
+    BrushHandle fieldLineBrush_;
     FormBackground background_;
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     LONG lineHeight_ = 0;

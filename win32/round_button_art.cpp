@@ -41,18 +41,18 @@ struct Palette {
     Color bottom;
     Color rim;
     double shadow;     // strength of the shadow below the button
-    double highlight;  // strength of the gloss on its upper half
+    double highlight;  // strength of the gloss at its top
     double drop;       // how far the body sits below its resting place, in pixels at 96 DPI
 };
 
 Palette PaletteOf(ButtonLook look) {
     switch (look) {
         case ButtonLook::Hover:
-            return {FromRgb(0x86A8D0), FromRgb(0x5B81B0), FromRgb(0x46698F), 0.20, 0.22, 0.0};
+            return {FromRgb(0x86A8D0), FromRgb(0x5B81B0), FromRgb(0x46698F), 0.20, 0.34, 0.0};
         case ButtonLook::Down:
             return {FromRgb(0x42648F), FromRgb(0x5A7EAA), FromRgb(0x354F72), 0.0, 0.06, 1.0};
         default:
-            return {FromRgb(0x779BC6), FromRgb(0x4C71A0), FromRgb(0x3F5F86), 0.18, 0.20, 0.0};
+            return {FromRgb(0x779BC6), FromRgb(0x4C71A0), FromRgb(0x3F5F86), 0.18, 0.30, 0.0};
     }
 }
 
@@ -110,7 +110,8 @@ PixelImage RenderRoundButton(int width, int height, double scale, ButtonLook loo
                             c = Mix(p.top, p.bottom, t);
                             const double gx = (px - cx) / glossRx;
                             const double gy = (py - glossCy) / glossRy;
-                            if (gx * gx + gy * gy <= 1.0) c = Over(c, white, p.highlight);
+                            // The gloss fades out towards its lower edge.
+                            if (gx * gx + gy * gy <= 1.0) c = Over(c, white, p.highlight * (1 - gy) / 2);
                         }
                     }
                     sum.r += c.r;

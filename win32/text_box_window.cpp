@@ -31,11 +31,14 @@ void TextBoxWindow::Create() {
         style |= ES_AUTOHSCROLL;
     }
     if (box_.Locked()) style |= ES_READONLY;
-    // On a dialog's flat face a box has a thin line around it; on the bar it
-    // sits in a field of the picture.
-    if (Form().Model().Style() == ui::FormStyle::Dialog) style |= WS_BORDER;
     CreateChild(L"EDIT", style);
     if (Handle() == nullptr) return;
+    // On a dialog the form draws a thin line round the box, so the text
+    // keeps a little room from it.
+    if (Form().Model().Style() == ui::FormStyle::Dialog) {
+        const int room = ::MulDiv(4, static_cast<int>(Form().Dpi()), USER_DEFAULT_SCREEN_DPI);
+        ::SendMessageW(Handle(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(room, room));
+    }
     ::SetWindowSubclass(Handle(), EditProc, 1, reinterpret_cast<DWORD_PTR>(this));
     WriteText();
 }
