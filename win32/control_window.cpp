@@ -30,6 +30,7 @@ void ControlWindow::CreateChild(const wchar_t* windowClass, DWORD style, DWORD e
     if (window_ == nullptr) return;
     ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(ControlFont()), FALSE);
     if (!control_.ToolTipText().empty()) form_.SetToolTip(window_, control_.ToolTipText());
+    form_.ChildCreated();
 }
 
 HFONT ControlWindow::ControlFont() { return form_.Font(); }
@@ -79,7 +80,7 @@ void ControlWindow::Changed(ui::Property what) {
             form_.SetToolTip(window_, control_.ToolTipText());
             break;
         case ui::Property::TabIndex:
-            form_.OrderByTabIndex();
+            form_.TabIndexChanged(*this);
             break;
         default:
             break;

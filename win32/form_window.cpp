@@ -99,22 +99,37 @@ void FormWindow::CreateControls() {
     int id = kFirstControlId;
     for (ui::Control* control : form_.Controls()) controls_.push_back(MakeControlWindow(*this, *control, id++));
     for (auto& control : controls_) control->Create();
-    OrderByTabIndex();
-}
-
-void FormWindow::OrderByTabIndex() {
-    // Tab and Shift+Tab follow the order of the child windows, so the
-    // windows are put in the order of their controls' tab indexes; equal
+    // The tab order starts as the controls' tab indexes give it; equal
     // indexes keep the order in which the controls were made.
-    std::vector<ControlWindow*> order;
-    for (auto& control : controls_) {
-        if (control->Handle() != nullptr) order.push_back(control.get());
-    }
-    std::stable_sort(order.begin(), order.end(), [](const ControlWindow* a, const ControlWindow* b) {
+    for (auto& control : controls_) tabOrder_.push_back(control.get());
+    std::stable_sort(tabOrder_.begin(), tabOrder_.end(), [](const ControlWindow* a, const ControlWindow* b) {
         return a->Model().TabIndex() < b->Model().TabIndex();
     });
+    ApplyTabOrder();
+    created_ = true;
+}
+
+void FormWindow::TabIndexChanged(ControlWindow& control) {
+    // A control given tab index n takes place n of the order and the others
+    // keep theirs around it, as the form designer renumbers them.
+    const auto found = std::find(tabOrder_.begin(), tabOrder_.end(), &control);
+    if (found == tabOrder_.end()) return;
+    tabOrder_.erase(found);
+    const auto place = std::min<std::size_t>(static_cast<std::size_t>(std::max<int>(control.Model().TabIndex(), 0)),
+                                             tabOrder_.size());
+    tabOrder_.insert(tabOrder_.begin() + static_cast<std::ptrdiff_t>(place), &control);
+    ApplyTabOrder();
+}
+
+void FormWindow::ChildCreated() {
+    if (created_) ApplyTabOrder();
+}
+
+void FormWindow::ApplyTabOrder() {
+    // Tab and Shift+Tab follow the order of the child windows.
     HWND after = HWND_TOP;
-    for (const ControlWindow* control : order) {
+    for (const ControlWindow* control : tabOrder_) {
+        if (control->Handle() == nullptr) continue;
         ::SetWindowPos(control->Handle(), after, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
         after = control->Handle();
     }
@@ -245,7 +260,7 @@ LRESULT FormWindow::DialogColors(HDC dc, const ControlWindow* control) const {
 }
 
 void FormWindow::FocusFirstControl() {
-    for (auto& control : controls_) {
+    for (const ControlWindow* control : tabOrder_) {
         const HWND child = control->Handle();
         if (control->TakesFocus() && child != nullptr && ::IsWindowVisible(child) && ::IsWindowEnabled(child)) {
             ::SetFocus(child);

@@ -38,8 +38,10 @@ public:
     LONG ClientHeight() const;
     // A text box moved or showed: the fields behind them are repainted.
     void FieldsMoved();
-    // Puts the child windows in the order of their controls' tab indexes.
-    void OrderByTabIndex();
+    // A control's tab index changed: its window moves in the tab order.
+    void TabIndexChanged(ControlWindow& control);
+    // A control made its window after the form's: it takes its tab place.
+    void ChildCreated();
     // Shows the text as the tip of a child window; "" removes the tip.
     void SetToolTip(HWND child, const std::wstring& text);
 
@@ -66,7 +68,10 @@ private:
     void UpdateBackground();
     // Text and background of a control on a dialog form.
     LRESULT DialogColors(HDC dc, const ControlWindow* control) const;
+    // The focus goes to the first control in tab order that may take it.
     void FocusFirstControl();
+    // Puts the child windows in the tab order.
+    void ApplyTabOrder();
     ControlWindow* ControlById(int id) const;
     void ReportMove();
 
@@ -81,6 +86,10 @@ private:
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     LONG lineHeight_ = 0;
     std::vector<std::unique_ptr<ControlWindow>> controls_;
+    // The controls in tab order.
+    std::vector<ControlWindow*> tabOrder_;
+    // True once every control's first window exists.
+    bool created_ = false;
     HWND lastFocus_ = nullptr;
     // The form's tooltip window, made at the first tip; owned by the form's window.
     HWND toolTips_ = nullptr;

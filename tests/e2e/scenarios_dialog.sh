@@ -1,7 +1,8 @@
 # shellcheck shell=bash
 # The message dialog: a program that cannot be started brings up the bug
 # report dialog over the bar; "Yes" mails the failure tag to the maker and
-# "No" closes the dialog and gives the bar back.
+# "No" closes the dialog and gives the bar back. The same dialog asks for a
+# new name, with boxes that take letters only.
 
 DIALOG_TAG='Quillstart:Bug:ActionProgramStartA'
 E2E_DIALOG=""
@@ -34,17 +35,28 @@ dialog_has_label() {
     <<<"$E2E_DIALOG"
 }
 
-# The heading: a visible static control with the text, above the message box.
-dialog_heading_is() {
-  awk -F'\t' -v text="$1" '
-    $1 == "child=Edit" && $2 == 1 && $4 ~ /\\r\\n/ { split($3, e, ","); boxTop = e[2] }
-    $1 == "child=Static" && $2 == 1 && $4 == text { split($3, s, ","); top = s[2]; found = 1 }
-    END { exit !(found && boxTop != "" && top < boxTop) }' <<<"$E2E_DIALOG"
+# The visible text boxes as "HEIGHT<tab>LEFT,TOP,RIGHT,BOTTOM<tab>TEXT", the
+# message box (the tallest) first.
+dialog_edits() {
+  awk -F'\t' '$1 == "child=Edit" && $2 == 1 { split($3, r, ","); print (r[4] - r[2]) "\t" $3 "\t" $4 }' \
+    <<<"$E2E_DIALOG" | sort -t$'\t' -k1,1nr
 }
 
+# The heading: a visible static control with the text, above the message box.
+dialog_heading_is() {
+  local boxTop
+  boxTop=$(dialog_edits | head -1 | cut -f2 | cut -d, -f2)
+  [ -n "$boxTop" ] || return 1
+  awk -F'\t' -v text="$1" -v boxTop="$boxTop" '
+    $1 == "child=Static" && $2 == 1 && $4 == text { split($3, s, ","); if (s[2] + 0 < boxTop + 0) found = 1 }
+    END { exit !found }' <<<"$E2E_DIALOG"
+}
+
+# The text comes through the environment, since awk -v would turn the \r\n
+# written for line ends into real ones.
 dialog_body_has() {
-  awk -F'\t' -v text="$1" '$1 == "child=Edit" && $2 == 1 && index($4, text) { found = 1 } END { exit !found }' \
-    <<<"$E2E_DIALOG"
+  DIALOG_TEXT=$1 awk -F'\t' '$1 == "child=Edit" && $2 == 1 && index($4, ENVIRON["DIALOG_TEXT"]) { found = 1 }
+    END { exit !found }' <<<"$E2E_DIALOG"
 }
 
 # Prints "X Y", the screen centre of the picture button just left of the
@@ -131,5 +143,52 @@ bug_dialog_no_gives_the_bar_back() {
   e2e_wait_text ""
 }
 
+# The name boxes, left to right: "LEFT,TOP,RIGHT,BOTTOM<tab>TEXT" per line.
+dialog_name_boxes() {
+  dialog_edits | tail -n +2 | cut -f2- | sort -t, -k1,1n
+}
+
+# Clicks into the name box with the given number (1 to 3) and types.
+dialog_type_name() {
+  local rect l t r b
+  rect=$(dialog_name_boxes | sed -n "${1}p" | cut -f1)
+  IFS=, read -r l t r b <<<"$rect"
+  [ -n "${b:-}" ] || e2e_fail "no name box $1" || return 1
+  xdotool mousemove $(((l + r) / 2)) $(((t + b) / 2)) click 1
+  sleep 0.2
+  xdotool type --delay 40 -- "$2"
+}
+
+dialog_name_is() {
+  dialog_read && [ "$(dialog_name_boxes | sed -n "${1}p" | cut -f2)" = "$2" ]
+}
+
+name_prompt_takes_letters_only() {
+  [ -f "$E2E_TOOLS/children.exe" ] || e2e_fail "missing $E2E_TOOLS/children.exe" || return 1
+  e2e_command 'a.ChangeUserName' || return 1
+  qs_poll 15 dialog_read || e2e_fail "no name prompt appeared" || return 1
+  sleep 0.5
+  dialog_read || e2e_fail "the name prompt went away" || return 1
+  dialog_heading_is 'New Name Please' || e2e_fail "the heading is not \"New Name Please\"" || return 1
+  dialog_body_has 'Please type your name above. Use only alphabets please.' ||
+    e2e_fail "the prompt text is missing" || return 1
+  local label
+  for label in 'First Name' 'Last Name' 'Nick Name' OK Cancel; do
+    dialog_has_label "$label" || e2e_fail "no label \"$label\"" || return 1
+  done
+  [ "$(dialog_name_boxes | wc -l)" -eq 3 ] || e2e_fail "expected three name boxes" || return 1
+  dialog_type_name 1 'Ada 7-' || return 1
+  qs_poll 5 dialog_name_is 1 'Ada' || e2e_fail "the first name box holds something else than \"Ada\"" || return 1
+  dialog_type_name 3 'Quill' || return 1
+  qs_poll 5 dialog_name_is 3 'Quill' || e2e_fail "the nick name box does not hold \"Quill\"" || return 1
+  dialog_body_has 'First Name: Ada\r\nLast Name: Empty\r\nNick Name : Quill' ||
+    e2e_fail "the preview does not show the names" || return 1
+  dialog_screenshot name-prompt
+  dialog_click_button Cancel || return 1
+  qs_poll 10 dialog_gone || e2e_fail "the name prompt stayed after \"Cancel\"" || return 1
+  e2e_wait_text ""
+}
+
 e2e_scenario 'p=C:\nope.exe shows the bug dialog; "Yes" mails the tag to the maker' bug_dialog_yes_mails_the_tag
 e2e_scenario 'p=C:\nope.exe shows the bug dialog; "No" closes it and the bar goes on' bug_dialog_no_gives_the_bar_back
+e2e_scenario 'a.ChangeUserName asks for a name in boxes that take letters only' name_prompt_takes_letters_only

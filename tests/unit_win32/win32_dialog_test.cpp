@@ -233,23 +233,25 @@ TEST_F(Win32DialogTest, LabelTakesItsOwnSizeAndWeightAndGoesBackToTheFormsFont) 
     EXPECT_EQ(reinterpret_cast<HFONT>(::SendMessageW(label, WM_GETFONT, 0, 0)), formFont);
 }
 
-TEST_F(Win32DialogTest, ChildWindowsFollowTheTabIndexes) {
+TEST_F(Win32DialogTest, TabIndexPutsTheControlInThatPlaceAndTheOthersAroundIt) {
     HWND message = ::FindWindowExW(window, nullptr, L"EDIT", nullptr);
     HWND first = ::FindWindowExW(window, message, L"EDIT", nullptr);
     HWND second = ::FindWindowExW(window, first, L"EDIT", nullptr);
     ASSERT_NE(second, nullptr);
-    form.Show();
-    form.Second.SetTabIndex(1);
-    form.First.SetTabIndex(2);
-    form.Message.SetTabIndex(3);
-    ::SetFocus(second);
-    EXPECT_EQ(::GetNextDlgTabItem(window, second, FALSE), first);
-    EXPECT_EQ(::GetNextDlgTabItem(window, first, FALSE), message);
-    // Equal indexes keep the order in which the controls were made: the
-    // message box, then the check box, then the higher indexes.
+    // As the message window numbers them at its load: the message box
+    // first, the name boxes after it; then the name boxes are numbered 0
+    // and 1, which puts them in front of the message box.
     form.Message.SetTabIndex(0);
+    form.First.SetTabIndex(1);
+    form.Second.SetTabIndex(2);
+    EXPECT_EQ(::GetNextDlgTabItem(window, message, FALSE), first);
+    form.First.SetTabIndex(0);
+    form.Second.SetTabIndex(1);
+    EXPECT_EQ(::GetNextDlgTabItem(window, first, FALSE), second);
+    EXPECT_EQ(::GetNextDlgTabItem(window, second, FALSE), message);
     EXPECT_EQ(::GetNextDlgTabItem(window, message, FALSE), check);
-    EXPECT_EQ(::GetNextDlgTabItem(window, check, FALSE), second);
+    // The first box in tab order is the one the focus goes to.
+    EXPECT_EQ(::GetWindow(window, GW_CHILD), first);
 }
 
 TEST_F(Win32DialogTest, ModalLoopEndsWhenAPictureClickUnloadsTheForm) {
