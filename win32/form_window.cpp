@@ -409,6 +409,11 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_CLOSE:
             form_.Unload();
             return 0;
+        case WM_ENDSESSION:
+            // Windows is logging off or shutting down: unload as the exit
+            // button does, so everything the user changed is saved.
+            if (wParam != FALSE) form_.Unload();
+            return 0;
         default:
             break;
     }

@@ -2,6 +2,7 @@
 
 #include "command/launchers.h"
 #include "common/application.h"
+#include "data/active_family.h"
 #include "common/maker.h"
 #include "startup/always_on_top.h"
 #include "startup/message_texts.h"
@@ -151,6 +152,14 @@ void MessageReplyOK(Application& app) {
     try {
         if (app.message.MessageWillEnd) app.sys.EndProgram();
         if (app.MessageToShow == L"MessageGetUserName" || app.MessageToShow == L"MessageChangeUserName") ReadNames(app);
+        if (app.MessageToShow == L"MessageChangeUserName") {
+            // A new name is the family's at once: every sibling shows it.
+            KinfoldRecord& live = app.family.KinfoldLive;
+            live.UserNickName = app.family.UserNickName;
+            live.UserFirstName = app.family.UserFirstName;
+            live.UserLastName = app.family.UserLastName;
+            FamAASaveFamilyInfo(app);
+        }
         app.frmMessage.Unload();
         if (!app.message.MessageIsBug) {
             ClearMessage(app);

@@ -5,6 +5,15 @@
 
 namespace qs {
 
+void ActionAlwaysOnTopOn(Application& app) {
+    try {
+        app.frmMain.SetTopMost(true);
+    } catch (const std::exception&) {
+        app.MessageToShow = L"Quillstart:Bug:ActionAlwaysOnTopOn";
+        MessageBug(app);
+    }
+}
+
 void ActionAlwaysOnTopOff(Application& app) {
     try {
         app.frmMain.SetTopMost(false);

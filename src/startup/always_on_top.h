@@ -1,10 +1,11 @@
 #pragma once
-// Lowering the bar from the topmost band, so that a pane or a dialog can
-// stand over it.
+// Raising the bar into the topmost band, and lowering it out of it so that a
+// pane or a dialog can stand over it.
 namespace qs {
 
 struct Application;
 
+void ActionAlwaysOnTopOn(Application& app);
 void ActionAlwaysOnTopOff(Application& app);
 
 }  // namespace qs

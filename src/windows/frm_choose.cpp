@@ -1,5 +1,7 @@
 #include "windows/frm_choose.h"
 
+#include "data/launch_list.h"
+
 namespace qs {
 
 FrmChoose::FrmChoose(Application& app) : ui::Form(L"frmChoose", ui::FormStyle::Borderless), app_(app) {
@@ -9,6 +11,7 @@ FrmChoose::FrmChoose(Application& app) : ui::Form(L"frmChoose", ui::FormStyle::B
         ComboListItemName[group]->SetVisible(false);
         ComboListItemPath[group]->SetVisible(false);
     }
+    LoadEvent = [this] { LaunchListLoad(app_); };
 }
 
 }  // namespace qs

@@ -3,6 +3,11 @@
 #include <cmath>
 
 #include "common/application.h"
+#include "data/active_family.h"
+#include "data/control_data.h"
+#include "data/launch_list.h"
+#include "startup/always_on_top.h"
+#include "common/failure.h"
 
 namespace qs {
 
@@ -20,6 +25,8 @@ FrmMain::FrmMain(Application& app)
     CommandMainClick.SetVisible(false);
 
     LoadEvent = [this] { FormLoad(); };
+    UnloadEvent = [this] { FormUnload(); };
+    TimerOnTop.Tick = [this] { TimerOnTopTimer(); };
     TextMain.KeyPress = [this](std::int16_t& key) { TextMainKeyPress(key); };
     TextMain.Change = [this] { TextMainChange(); };
     TextMain.DblClick = [this] { TextMainDblClick(); };
@@ -30,7 +37,34 @@ void FrmMain::FormLoad() {
     app_.MainWidth = MainWidthCommand;
     LastWideWidth = MainWidthCommand;
     ApplyMainWidth();
+    Move(app_.settings.MainLeft, app_.settings.MainTop, Width(), MainHeight);
     SetTextMainQuietly(L"Quillstart");
+    app_.PendingClick = -1;
+}
+
+void FrmMain::TimerOnTopTimer() {
+    ActionAlwaysOnTopOn(app_);
+    if (TextMain.Text().empty()) return;
+    // Text left standing is wiped after a minute of text-bearing time, added
+    // up over the run.
+    IdleTicks = ToInt16(IdleTicks + 1);
+    if (IdleTicks > 60) {
+        IdleTicks = 0;
+        SetTextMainQuietly(L"");
+    }
+}
+
+void FrmMain::FormUnload() {
+    // The position is kept in 16 bits; a bar placed beyond their reach keeps
+    // the last position that fitted rather than losing the whole save.
+    if (Left() >= INT16_MIN && Left() <= INT16_MAX && Top() >= INT16_MIN && Top() <= INT16_MAX) {
+        app_.settings.MainLeft = static_cast<std::int16_t>(Left());
+        app_.settings.MainTop = static_cast<std::int16_t>(Top());
+    }
+    LaunchListSaveAtExit(app_, {[this] { ControlUSBDataSave(app_); }, [this] { ControlDataSave(app_); },
+                                [this] { ControlComDataSave(app_); }});
+    FamAASaveFamilyInfo(app_);
+    app_.sys.EndProgram();
 }
 
 void FrmMain::SetTextMainQuietly(const std::wstring& text) {

@@ -31,9 +31,13 @@ public:
     bool BackspaceTyped = false;
     // Width to come back to after a collapse.
     std::int32_t LastWideWidth = MainWidthCommand;
+    // TimerOnTop ticks counted while TextMain holds text.
+    std::int16_t IdleTicks = 0;
 
     // Event handlers.
     void FormLoad();
+    void FormUnload();
+    void TimerOnTopTimer();
     void TextMainKeyPress(std::int16_t& key);
     void TextMainChange();
     void TextMainDblClick();

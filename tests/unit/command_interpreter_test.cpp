@@ -283,12 +283,12 @@ TEST_F(CommandBox, NoPendingClickDoesNothing) {
 }
 
 TEST_F(CommandBox, BarShowsItsNameAtLoad) {
-    TestApp fresh;
-    fresh.app.frmMain.Unload();
-    fresh.app.frmMain.Load();
-    EXPECT_EQ(fresh.Text(), L"Quillstart");
-    EXPECT_EQ(fresh.app.frmMain.Width(), 6360);
-    EXPECT_EQ(fresh.app.frmMain.Height(), 348);
+    qs::test::FakeSystem sys;
+    qs::Application app(sys);
+    app.frmMain.Load();
+    EXPECT_EQ(app.frmMain.TextMain.Text(), L"Quillstart");
+    EXPECT_EQ(app.frmMain.Width(), 6360);
+    EXPECT_EQ(app.frmMain.Height(), 348);
 }
 
 }  // namespace

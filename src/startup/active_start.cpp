@@ -1,0 +1,59 @@
+#include "startup/active_start.h"
+
+#include "command/default_values.h"
+#include "common/application.h"
+#include "common/text_case.h"
+#include "data/active_family.h"
+#include "data/control_data.h"
+#include "startup/active_message.h"
+#include "startup/active_start_checks.h"
+#include "startup/desktop.h"
+#include "startup/saved_options.h"
+
+namespace qs {
+
+void Main(Application& app) {
+    ProgramPlace& place = app.place;
+    place.StartingUp = true;
+    app.frmHid.Load();
+    place.UserNameEnv = app.sys.Environment(L"username");
+    place.ComputerName = app.sys.Environment(L"computername");
+    if (app.sys.AnotherCopyRunning()) AtStartPrevInstance(app);
+    AtStartConfirmScreen(app);
+    app.ProgramFolder = AtStartProgramFile(app);
+
+    const DriveInfo drive = app.sys.GetDrive(app.sys.GetDriveName(app.ProgramFolder));
+    place.ProgramDriveLetter = drive.letter;
+    place.ProgramDriveLetterUpper = UCase(drive.letter);
+
+    std::wstring folderUpper = UCase(app.ProgramFolder);
+    app.MessageToShow = AtStartSysPath(app, folderUpper);
+    if (!app.MessageToShow.empty()) MessageEnd(app);
+    place.WindowsRoot = AtStartPathRoot(app, app.WindowsFolder);
+    place.ProgramRoot = AtStartPathRoot(app, app.ProgramFolder);
+    app.MessageToShow = AtStartDriveType(app, place.ProgramRoot);
+    if (!app.MessageToShow.empty()) MessageEnd(app);
+    AtStartSetFileFolder(app, place.OnRemovable);
+
+    const bool firstStart = FamilyStart(app);
+    ControlComDataGet(app);
+    ControlDataGet(app, place.OnRemovable);
+    if (place.OnRemovable) ControlUSBDataGet(app);
+    AtStartsavedOptions(app, app.settings.OptionWord);
+    AtStartDefaultValue(app);
+    // A program found in a new place starts with Windows from there.
+    if (app.settings.OptionStartWithWindows == 1 && !place.OnRemovable && app.family.ProgramMoved)
+        AutostartRegister(app);
+
+    app.frmMain.Load();
+    app.frmChoose.Load();
+    place.StartingUp = false;
+    app.frmMain.Show();
+    app.frmMain.TimerOnTop.SetEnabled(app.settings.OptionAlwaysOnTop != 0);
+    if (firstStart) {
+        app.MessageToShow = L"MessageFisrtStart";
+        MessageProcess(app);
+    }
+}
+
+}  // namespace qs
