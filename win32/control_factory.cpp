@@ -1,5 +1,6 @@
 // One peer class per control kind; no window needs code of its own.
 #include "control_kinds.h"
+#include "picture_box_window.h"
 #include "text_box_window.h"
 
 namespace qs::win {
@@ -17,8 +18,9 @@ std::unique_ptr<ControlWindow> MakeControlWindow(FormWindow& form, ui::Control& 
         case ui::ControlKind::ListBox:
             return std::make_unique<ListBoxWindow>(form, static_cast<ui::ListBox&>(control), id);
         case ui::ControlKind::PictureBox:
+            return std::make_unique<PictureBoxWindow>(form, static_cast<ui::PictureBox&>(control), id);
         case ui::ControlKind::CheckBox:
-            return std::make_unique<PlainWindow>(form, control, id);
+            return std::make_unique<CheckBoxWindow>(form, static_cast<ui::CheckBox&>(control), id);
     }
     return std::make_unique<PlainWindow>(form, control, id);
 }

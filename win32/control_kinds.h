@@ -1,6 +1,8 @@
 #pragma once
 // The peers of the simpler control kinds.
 #include "control_window.h"
+#include "handles.h"
+#include "ui/check_box.h"
 #include "ui/command_button.h"
 #include "ui/label.h"
 #include "ui/list_box.h"
@@ -8,7 +10,8 @@
 
 namespace qs::win {
 
-// A caption as a STATIC control.
+// A caption as a STATIC control, in the form's font or in the label's own
+// size and weight at the form's DPI.
 class LabelWindow : public ControlWindow {
 public:
     LabelWindow(FormWindow& form, ui::Label& label, int id) : ControlWindow(form, label, id), label_(label) {}
@@ -16,9 +19,14 @@ public:
 
 protected:
     void OnChanged(ui::Property what) override;
+    HFONT ControlFont() override;
 
 private:
     ui::Label& label_;
+    FontHandle font_;
+    UINT fontDpi_ = 0;
+    std::int16_t fontSize_ = 0;
+    bool fontBold_ = false;
 };
 
 // A push button; a click is the button's Click.
@@ -31,6 +39,25 @@ public:
 
 private:
     ui::CommandButton& button_;
+};
+
+// A check box as a BUTTON that the program ticks itself: the user's click
+// goes to the control, whose Value comes back to the box.
+class CheckBoxWindow : public ControlWindow {
+public:
+    CheckBoxWindow(FormWindow& form, ui::CheckBox& box, int id) : ControlWindow(form, box, id), box_(box) {}
+    void Create() override;
+    void OnCommand(WORD code) override;
+    bool TakesFocus() const override { return Model().Visible() && Model().Enabled(); }
+
+protected:
+    void OnChanged(ui::Property what) override;
+
+private:
+    void WriteCaption();
+    void WriteValue();
+
+    ui::CheckBox& box_;
 };
 
 // A timer has no window: it ticks through the form's window.

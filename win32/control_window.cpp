@@ -28,9 +28,12 @@ void ControlWindow::CreateChild(const wchar_t* windowClass, DWORD style, DWORD e
                                 form_.Handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(id_)),
                                 ::GetModuleHandleW(nullptr), nullptr);
     if (window_ == nullptr) return;
-    ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form_.Font()), FALSE);
+    ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(ControlFont()), FALSE);
     if (!control_.ToolTipText().empty()) form_.SetToolTip(window_, control_.ToolTipText());
+    form_.ChildCreated();
 }
+
+HFONT ControlWindow::ControlFont() { return form_.Font(); }
 
 RECT ControlWindow::PixelRect() const {
     const UINT dpi = form_.Dpi();
@@ -51,7 +54,7 @@ void ControlWindow::ApplyGeometry() {
 
 void ControlWindow::ApplyDpi() {
     if (window_ == nullptr) return;
-    ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form_.Font()), TRUE);
+    ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(ControlFont()), TRUE);
     ApplyGeometry();
 }
 
@@ -75,6 +78,9 @@ void ControlWindow::Changed(ui::Property what) {
             break;
         case ui::Property::ToolTip:
             form_.SetToolTip(window_, control_.ToolTipText());
+            break;
+        case ui::Property::TabIndex:
+            form_.TabIndexChanged(*this);
             break;
         default:
             break;

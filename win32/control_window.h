@@ -47,6 +47,8 @@ protected:
     // Creates the child window with the control's geometry and state.
     void CreateChild(const wchar_t* windowClass, DWORD style, DWORD exStyle = 0);
     virtual void OnChanged(ui::Property) {}
+    // The font of the window: the form's, unless the control has its own.
+    virtual HFONT ControlFont();
     virtual RECT PixelRect() const;
     FormWindow& Form() const { return form_; }
 

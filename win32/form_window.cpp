@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "dialog_look.h"
 #include "dpi.h"
 #include "res/resource_ids.h"
 #include "window_names.h"
@@ -58,12 +59,16 @@ void FormWindow::RegisterClasses(HINSTANCE instance) {
 }
 
 FormWindow::FormWindow(HINSTANCE instance, ui::Form& form)
-    : form_(form), fieldBrush_(::CreateSolidBrush(ToColorRef(kPencilFieldColor))) {
+    : form_(form),
+      fieldBrush_(::CreateSolidBrush(ToColorRef(IsBorderless(form) ? kPencilFieldColor : kDialogFieldColor))),
+      faceBrush_(::CreateSolidBrush(ToColorRef(kDialogFaceColor))),
+      borderBrush_(::CreateSolidBrush(ToColorRef(kDialogBorderColor))),
+      fieldLineBrush_(::CreateSolidBrush(ToColorRef(kDialogFieldLineColor))) {
     dpi_ = SystemDpi();
     const bool borderless = IsBorderless(form_);
-    const DWORD style = WS_CLIPCHILDREN | (borderless ? WS_POPUP : WS_POPUP | WS_CAPTION | WS_SYSMENU);
-    const DWORD exStyle = borderless ? 0 : WS_EX_DLGMODALFRAME;
-    ::CreateWindowExW(exStyle, borderless ? kBorderlessClass : kDialogClass, form_.Caption().c_str(), style,
+    // Neither style has a caption or a close box: a dialog's title is a
+    // label of its own, and only its own buttons answer it.
+    ::CreateWindowExW(0, borderless ? kBorderlessClass : kDialogClass, form_.Caption().c_str(), WS_POPUP | WS_CLIPCHILDREN,
                       TwipsToPixels(form_.Left(), dpi_), TwipsToPixels(form_.Top(), dpi_),
                       TwipsToPixels(form_.Width(), dpi_), TwipsToPixels(form_.Height(), dpi_), nullptr, nullptr,
                       instance, this);
@@ -94,6 +99,40 @@ void FormWindow::CreateControls() {
     int id = kFirstControlId;
     for (ui::Control* control : form_.Controls()) controls_.push_back(MakeControlWindow(*this, *control, id++));
     for (auto& control : controls_) control->Create();
+    // The tab order starts as the controls' tab indexes give it; equal
+    // indexes keep the order in which the controls were made.
+    for (auto& control : controls_) tabOrder_.push_back(control.get());
+    std::stable_sort(tabOrder_.begin(), tabOrder_.end(), [](const ControlWindow* a, const ControlWindow* b) {
+        return a->Model().TabIndex() < b->Model().TabIndex();
+    });
+    ApplyTabOrder();
+    created_ = true;
+}
+
+void FormWindow::TabIndexChanged(ControlWindow& control) {
+    // A control given tab index n takes place n of the order and the others
+    // keep theirs around it, as the form designer renumbers them.
+    const auto found = std::find(tabOrder_.begin(), tabOrder_.end(), &control);
+    if (found == tabOrder_.end()) return;
+    tabOrder_.erase(found);
+    const auto place = std::min<std::size_t>(static_cast<std::size_t>(std::max<int>(control.Model().TabIndex(), 0)),
+                                             tabOrder_.size());
+    tabOrder_.insert(tabOrder_.begin() + static_cast<std::ptrdiff_t>(place), &control);
+    ApplyTabOrder();
+}
+
+void FormWindow::ChildCreated() {
+    if (created_) ApplyTabOrder();
+}
+
+void FormWindow::ApplyTabOrder() {
+    // Tab and Shift+Tab follow the order of the child windows.
+    HWND after = HWND_TOP;
+    for (const ControlWindow* control : tabOrder_) {
+        if (control->Handle() == nullptr) continue;
+        ::SetWindowPos(control->Handle(), after, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        after = control->Handle();
+    }
 }
 
 ControlWindow* FormWindow::ControlById(int id) const {
@@ -210,8 +249,18 @@ void FormWindow::ReportMove() {
     form_.UserMoved(PixelsToTwips(r.left, dpi_), PixelsToTwips(r.top, dpi_));
 }
 
+LRESULT FormWindow::DialogColors(HDC dc, const ControlWindow* control) const {
+    ::SetTextColor(dc, ToColorRef(kDialogTextColor));
+    if (control != nullptr && control->Model().Kind() == ui::ControlKind::TextBox) {
+        ::SetBkColor(dc, ToColorRef(kDialogFieldColor));
+        return reinterpret_cast<LRESULT>(fieldBrush_.Get());
+    }
+    ::SetBkColor(dc, ToColorRef(kDialogFaceColor));
+    return reinterpret_cast<LRESULT>(faceBrush_.Get());
+}
+
 void FormWindow::FocusFirstControl() {
-    for (auto& control : controls_) {
+    for (const ControlWindow* control : tabOrder_) {
         const HWND child = control->Handle();
         if (control->TakesFocus() && child != nullptr && ::IsWindowVisible(child) && ::IsWindowEnabled(child)) {
             ::SetFocus(child);
@@ -236,12 +285,9 @@ void FormWindow::Surface() {
     }
 }
 
-void FormWindow::UpdateBackground() {
-    RECT client{};
-    ::GetClientRect(Handle(), &client);
-    const double scale = static_cast<double>(dpi_) / USER_DEFAULT_SCREEN_DPI;
-    std::vector<FieldRect> fields;
-    for (auto& control : controls_) {
+std::vector<RECT> FormWindow::VisibleTextBoxes() const {
+    std::vector<RECT> boxes;
+    for (const auto& control : controls_) {
         const HWND child = control->Handle();
         if (control->Model().Kind() != ui::ControlKind::TextBox || child == nullptr || !::IsWindowVisible(child)) {
             continue;
@@ -249,6 +295,17 @@ void FormWindow::UpdateBackground() {
         RECT r{};
         ::GetWindowRect(child, &r);
         ::MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&r), 2);
+        boxes.push_back(r);
+    }
+    return boxes;
+}
+
+void FormWindow::UpdateBackground() {
+    RECT client{};
+    ::GetClientRect(Handle(), &client);
+    const double scale = static_cast<double>(dpi_) / USER_DEFAULT_SCREEN_DPI;
+    std::vector<FieldRect> fields;
+    for (const RECT& r : VisibleTextBoxes()) {
         const double around = 3.0 * scale;
         const double edgeRoom = 2.0 * scale;
         fields.push_back({r.left - 4.0 * scale, std::max(edgeRoom, r.top - around), r.right + 2.0 * scale,
@@ -262,7 +319,15 @@ void FormWindow::Paint() {
     if (!IsBorderless(form_)) {
         RECT client{};
         ::GetClientRect(Handle(), &client);
-        ::FillRect(paint.Get(), &client, ::GetSysColorBrush(COLOR_BTNFACE));
+        ::FillRect(paint.Get(), &client, faceBrush_.Get());
+        // A thin line all round sets the dialog off from what lies behind
+        // it, and one round each text box marks its field.
+        ::FrameRect(paint.Get(), &client, borderBrush_.Get());
+        for (const RECT& field : VisibleTextBoxes()) {
+            RECT line = field;
+            ::InflateRect(&line, 1, 1);
+            ::FrameRect(paint.Get(), &line, fieldLineBrush_.Get());
+        }
         return;
     }
     UpdateBackground();
@@ -285,10 +350,11 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             FieldsMoved();
             break;
         case WM_CTLCOLOREDIT:
-        case WM_CTLCOLORSTATIC: {
-            if (!IsBorderless(form_)) break;
+        case WM_CTLCOLORSTATIC:
+        case WM_CTLCOLORBTN: {
             const auto dc = reinterpret_cast<HDC>(wParam);
             const ControlWindow* control = ControlById(::GetDlgCtrlID(reinterpret_cast<HWND>(lParam)));
+            if (!IsBorderless(form_)) return DialogColors(dc, control);
             ::SetTextColor(dc, ToColorRef(kPencilTextColor));
             if (control != nullptr && control->Model().Kind() == ui::ControlKind::TextBox) {
                 ::SetBkColor(dc, ToColorRef(kPencilFieldColor));
@@ -316,14 +382,10 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             }
             break;
         case WM_LBUTTONDOWN:
-            if (IsBorderless(form_)) {
-                // The body of a borderless form is its caption: dragging it
-                // moves the window.
-                ::ReleaseCapture();
-                ::SendMessageW(window, WM_NCLBUTTONDOWN, HTCAPTION, 0);
-                return 0;
-            }
-            break;
+            // The body of a form is its caption: dragging it moves the window.
+            ::ReleaseCapture();
+            ::SendMessageW(window, WM_NCLBUTTONDOWN, HTCAPTION, 0);
+            return 0;
         case WM_WINDOWPOSCHANGED: {
             const auto* position = reinterpret_cast<const WINDOWPOS*>(lParam);
             if ((position->flags & SWP_NOMOVE) == 0 && !placing_ && !detached_) ReportMove();

@@ -1,7 +1,8 @@
 #pragma once
-// The top-level window of a loaded form and the peers of its controls. A
-// borderless form is a popup that the user drags by its body; a dialog form
-// is a captioned popup. Geometry is kept in twips by the form and turned
+// The top-level window of a loaded form and the peers of its controls. Every
+// form is a popup without caption that the user drags by its body: a
+// borderless form shows the bar's picture, a dialog form a light face with a
+// thin line round it. Geometry is kept in twips by the form and turned
 // into pixels at the window's DPI.
 #include <windows.h>
 
@@ -37,6 +38,10 @@ public:
     LONG ClientHeight() const;
     // A text box moved or showed: the fields behind them are repainted.
     void FieldsMoved();
+    // A control's tab index changed: its window moves in the tab order.
+    void TabIndexChanged(ControlWindow& control);
+    // A control made its window after the form's: it takes its tab place.
+    void ChildCreated();
     // Shows the text as the tip of a child window; "" removes the tip.
     void SetToolTip(HWND child, const std::wstring& text);
 
@@ -57,9 +62,16 @@ private:
     void ApplyDpi(UINT dpi, const RECT* suggested);
     void MakeFont();
     void Paint();
+    // Where the shown text boxes lie, in the form's client pixels.
+    std::vector<RECT> VisibleTextBoxes() const;
     // The picture for the form's present size, DPI and text boxes.
     void UpdateBackground();
+    // Text and background of a control on a dialog form.
+    LRESULT DialogColors(HDC dc, const ControlWindow* control) const;
+    // The focus goes to the first control in tab order that may take it.
     void FocusFirstControl();
+    // Puts the child windows in the tab order.
+    void ApplyTabOrder();
     ControlWindow* ControlById(int id) const;
     void ReportMove();
 
@@ -67,10 +79,17 @@ private:
     WindowHandle window_;
     FontHandle font_;
     BrushHandle fieldBrush_;
+    BrushHandle faceBrush_;
+    BrushHandle borderBrush_;
+    BrushHandle fieldLineBrush_;
     FormBackground background_;
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     LONG lineHeight_ = 0;
     std::vector<std::unique_ptr<ControlWindow>> controls_;
+    // The controls in tab order.
+    std::vector<ControlWindow*> tabOrder_;
+    // True once every control's first window exists.
+    bool created_ = false;
     HWND lastFocus_ = nullptr;
     // The form's tooltip window, made at the first tip; owned by the form's window.
     HWND toolTips_ = nullptr;

@@ -93,6 +93,21 @@ private:
     HDC dc_;
 };
 
+// A memory device context compatible with another, deleted at the end of the scope.
+class MemoryDc {
+public:
+    explicit MemoryDc(HDC like) : dc_(::CreateCompatibleDC(like)) {}
+    MemoryDc(const MemoryDc&) = delete;
+    MemoryDc& operator=(const MemoryDc&) = delete;
+    ~MemoryDc() {
+        if (dc_ != nullptr) ::DeleteDC(dc_);
+    }
+    HDC Get() const { return dc_; }
+
+private:
+    HDC dc_;
+};
+
 // BeginPaint and EndPaint around one WM_PAINT.
 class PaintScope {
 public:

@@ -33,6 +33,12 @@ void TextBoxWindow::Create() {
     if (box_.Locked()) style |= ES_READONLY;
     CreateChild(L"EDIT", style);
     if (Handle() == nullptr) return;
+    // On a dialog the form draws a thin line round the box, so the text
+    // keeps a little room from it.
+    if (Form().Model().Style() == ui::FormStyle::Dialog) {
+        const int room = ::MulDiv(4, static_cast<int>(Form().Dpi()), USER_DEFAULT_SCREEN_DPI);
+        ::SendMessageW(Handle(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(room, room));
+    }
     ::SetWindowSubclass(Handle(), EditProc, 1, reinterpret_cast<DWORD_PTR>(this));
     WriteText();
 }

@@ -7,6 +7,8 @@ namespace qs::win {
 inline constexpr wchar_t kBorderlessClass[] = L"QuillstartBorderless";
 // Class of the dialog-like top-level windows.
 inline constexpr wchar_t kDialogClass[] = L"QuillstartDialog";
+// Class of the child windows that show a picture button.
+inline constexpr wchar_t kPictureClass[] = L"QuillstartPicture";
 // The bar's window name: the caption of its form.
 inline constexpr wchar_t kBarCaption[] = L"Quillstart";
 // Sent by a second copy to the first: show the bar and focus its Command box.

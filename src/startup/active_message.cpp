@@ -124,10 +124,10 @@ void MessageAAAct(Application& app, std::wstring& caption, std::wstring& body, s
         }
         form.ImageOK.SetVisible(buttons != L"Cancel");
         form.ImageCancel.SetVisible(buttons != L"OK");
-        if (app.place.StartingUp) {
-            form.ImageOK.SetPicture(form.ReplyButtonPicture(form.ImageOK.Visible()));
-            form.ImageCancel.SetPicture(form.ReplyButtonPicture(form.ImageCancel.Visible()));
-        }
+        // Before the theme exists (start-up) the buttons take the fixed
+        // pictures, afterwards the theme's set-up or blank picture.
+        form.ImageOK.SetPicture(form.ReplyButtonPicture(form.ImageOK.Visible()));
+        form.ImageCancel.SetPicture(form.ReplyButtonPicture(form.ImageCancel.Visible()));
         form.ShowModal();
     } catch (const std::exception&) {
         // A dialog that fails while it reports its own failure would report

@@ -57,37 +57,40 @@ FrmMessage::FrmMessage(Application& app)
 void FrmMessage::RestoreDesign() {
     restoringDesign_ = true;
     // The title strip across the top, the heading below it, the name row,
-    // the body filling the lower part, and the two buttons at the bottom.
-    LabelMsgFormCaption.Move(0, 0, 5280, 330);
+    // the body filling the lower part, and the two buttons centred at the
+    // bottom, each with its label beside it.
+    LabelMsgFormCaption.Move(240, 180, 4920, 300);
     LabelMsgFormCaption.SetCaption(L"");
-    LabelHead.Move(240, 450, 4800, 420);
+    LabelMsgFormCaption.SetFont(0, true);
+    LabelHead.Move(240, 600, 4920, 420);
     LabelHead.SetCaption(L"");
+    LabelHead.SetFont(12, true);
     for (std::size_t i = 0; i < TextName.size(); ++i) {
-        const auto left = static_cast<std::int32_t>(240 + i * 1620);
-        LabelName[i]->Move(left, 990, 1500, 255);
+        const auto left = static_cast<std::int32_t>(240 + i * 1680);
+        LabelName[i]->Move(left, 1140, 1560, 255);
         LabelName[i]->SetCaption(NameCaptions[i]);
         LabelName[i]->SetVisible(false);
-        TextName[i]->Move(left, 1260, 1500, 330);
+        TextName[i]->Move(left, 1410, 1560, 330);
         TextName[i]->SetText(L"");
         TextName[i]->SetVisible(false);
         TextName[i]->SetTabIndex(static_cast<std::int16_t>(i + 1));
     }
-    TextMessage.Move(240, 1740, 4800, 4920);
+    TextMessage.Move(240, 1860, 4920, 5280);
     TextMessage.SetText(L"");
     TextMessage.SetLocked(true);
     TextMessage.SetTabIndex(0);
-    CheckDoNotShow.Move(240, 6780, 4800, 300);
+    CheckDoNotShow.Move(240, 7200, 4920, 300);
     CheckDoNotShow.SetValue(0);
     CheckDoNotShow.SetVisible(false);
-    ImageOK.Move(960, 7200, 480, 480);
+    ImageOK.Move(1200, 7680, 480, 480);
     ImageOK.SetPicture(L"");
     ImageOK.SetVisible(true);
-    LabelOK.Move(1500, 7320, 900, 255);
+    LabelOK.Move(1740, 7800, 900, 255);
     LabelOK.SetCaption(L"OK");
-    ImageCancel.Move(2880, 7200, 480, 480);
+    ImageCancel.Move(3000, 7680, 480, 480);
     ImageCancel.SetPicture(L"");
     ImageCancel.SetVisible(true);
-    LabelCancel.Move(3420, 7320, 1000, 255);
+    LabelCancel.Move(3540, 7800, 1000, 255);
     LabelCancel.SetCaption(L"Cancel");
     restoringDesign_ = false;
 }

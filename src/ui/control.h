@@ -25,6 +25,7 @@ enum class Property {
     TopMost,
     TabIndex,
     Value,
+    Font,
 };
 
 enum class ControlKind { TextBox, Label, CommandButton, Timer, ListBox, PictureBox, CheckBox };

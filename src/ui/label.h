@@ -1,5 +1,6 @@
 #pragma once
-// A static caption.
+// A static caption, in the form's font or in a size and weight of its own.
+#include <cstdint>
 #include <string>
 
 #include "ui/control.h"
@@ -17,8 +18,19 @@ public:
         Notify(Property::Text);
     }
 
+    // The size in points, 0 for the form's own size, and the weight.
+    std::int16_t FontSize() const { return fontSize_; }
+    bool FontBold() const { return fontBold_; }
+    void SetFont(std::int16_t size, bool bold) {
+        fontSize_ = size;
+        fontBold_ = bold;
+        Notify(Property::Font);
+    }
+
 private:
     std::wstring caption_;
+    std::int16_t fontSize_ = 0;
+    bool fontBold_ = false;
 };
 
 }  // namespace qs::ui

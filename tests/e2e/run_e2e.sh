@@ -33,6 +33,8 @@ source tests/e2e/scenarios_web.sh
 source tests/e2e/scenarios_shell.sh
 # shellcheck source=scenarios_keys.sh
 source tests/e2e/scenarios_keys.sh
+# shellcheck source=scenarios_dialog.sh
+source tests/e2e/scenarios_dialog.sh
 
 finish() {
   qs_stop_wine

@@ -1,6 +1,7 @@
 // Reads the Command box of a running Quillstart from outside, the way a
 // person would see it: finds the top-level window with the given title
-// (default "Quillstart") that holds an EDIT control and prints
+// (default "Quillstart") that holds an EDIT control, the bar's borderless
+// window before a dialog of the same title, and prints
 //   text=<text of the box>
 //   sel=<start>,<end>
 //   rect=<left>,<top>,<right>,<bottom>   (the box, screen pixels)
@@ -18,8 +19,12 @@ namespace {
 struct Search {
     std::wstring title;
     HWND edit = nullptr;
-    bool editVisible = false;
+    int rank = 0;
 };
+
+// The bar is a borderless window; a message dialog over it has the same
+// title and a text box of its own.
+constexpr wchar_t kBarClass[] = L"QuillstartBorderless";
 
 BOOL CALLBACK FindEdit(HWND child, LPARAM param) {
     auto* found = reinterpret_cast<HWND*>(param);
@@ -32,8 +37,9 @@ BOOL CALLBACK FindEdit(HWND child, LPARAM param) {
     return TRUE;
 }
 
-// Several windows may carry the title (a hidden owner window, say): take the
-// one with an edit control, and a visible one before a hidden one.
+// Several windows may carry the title (a hidden owner window, a dialog):
+// take the one with an edit control, the bar before any other window, and a
+// visible one before a hidden one.
 BOOL CALLBACK VisitTopLevel(HWND top, LPARAM param) {
     auto* search = reinterpret_cast<Search*>(param);
     wchar_t title[256] = {};
@@ -42,10 +48,12 @@ BOOL CALLBACK VisitTopLevel(HWND top, LPARAM param) {
     HWND edit = nullptr;
     EnumChildWindows(top, FindEdit, reinterpret_cast<LPARAM>(&edit));
     if (edit == nullptr) return TRUE;
-    const bool visible = IsWindowVisible(top) != FALSE;
-    if (search->edit == nullptr || (visible && !search->editVisible)) {
+    wchar_t cls[64] = {};
+    GetClassNameW(top, cls, static_cast<int>(std::size(cls)));
+    const int rank = 1 + (lstrcmpW(cls, kBarClass) == 0 ? 2 : 0) + (IsWindowVisible(top) ? 1 : 0);
+    if (rank > search->rank) {
         search->edit = edit;
-        search->editVisible = visible;
+        search->rank = rank;
     }
     return TRUE;
 }

@@ -281,6 +281,23 @@ TEST(MessageDialog, HiddenButtonAtStartUpTakesTheBlankImage) {
     EXPECT_EQ(ShownMessages(t)[0].cancelPicture, L"frmBut.ImageMZ(0)");
 }
 
+TEST(MessageDialog, BugDialogAfterStartUpShowsTheSetUpImagesOfTheTheme) {
+    TestApp t;
+    t.app.MessageToShow = L"Quillstart:Bug:ActionProgramStartA";
+    qs::MessageBug(t.app);
+    ASSERT_EQ(ShownMessages(t).size(), 1u);
+    EXPECT_EQ(ShownMessages(t)[0].okPicture, L"ImageZeroSet(2)");
+    EXPECT_EQ(ShownMessages(t)[0].cancelPicture, L"ImageZeroSet(2)");
+}
+
+TEST(MessageDialog, HiddenButtonAfterStartUpTakesTheBlankImageOfTheTheme) {
+    TestApp t;
+    Process(t, L"MessageDriveNotReady");
+    ASSERT_EQ(ShownMessages(t).size(), 1u);
+    EXPECT_EQ(ShownMessages(t)[0].okPicture, L"ImageZeroSet(2)");
+    EXPECT_EQ(ShownMessages(t)[0].cancelPicture, L"ImageZeroBlank");
+}
+
 TEST(MessageDialog, ButtonsTakeThePressedPictureOnMouseDownAndTheSetOnMouseUp) {
     TestApp t;
     t.dialogs.Answer([](qs::FrmMessage& form) {

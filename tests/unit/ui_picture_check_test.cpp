@@ -1,4 +1,4 @@
-// The picture button and the check box of the control runtime.
+// The picture button, the check box and the label font of the control runtime.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -6,6 +6,7 @@
 
 #include "ui/check_box.h"
 #include "ui/form.h"
+#include "ui/label.h"
 #include "ui/picture_box.h"
 
 namespace {
@@ -85,6 +86,23 @@ TEST(UiControl, TabIndexReachesThePeer) {
     image.SetTabIndex(2);
     EXPECT_EQ(image.TabIndex(), 2);
     EXPECT_EQ(peer.changes, (std::vector<qs::ui::Property>{qs::ui::Property::TabIndex}));
+}
+
+}  // namespace
+
+namespace {
+
+TEST(UiLabel, FontStartsAsTheFormsAndTellsThePeerWhenSet) {
+    Form form{L"frmTest", FormStyle::Dialog};
+    qs::ui::Label label{form, L"LabelTest", L"Heading"};
+    EXPECT_EQ(label.FontSize(), 0);
+    EXPECT_FALSE(label.FontBold());
+    RecordingPeer peer;
+    label.AttachPeer(&peer);
+    label.SetFont(12, true);
+    EXPECT_EQ(label.FontSize(), 12);
+    EXPECT_TRUE(label.FontBold());
+    EXPECT_EQ(peer.changes, (std::vector<qs::ui::Property>{qs::ui::Property::Font}));
 }
 
 }  // namespace

@@ -1,0 +1,94 @@
+// Reads a dialog of a running Quillstart from outside: finds the visible
+// top-level window of the given class (default "QuillstartDialog") and
+// prints, one a line,
+//   window=<left>,<top>,<right>,<bottom>      (screen pixels)
+//   title=<title>
+//   owner=<title of the owner window, or empty>
+//   child=<class>\t<visible 0|1>\t<left>,<top>,<right>,<bottom>\t<text>
+// for every child window, the text read with WM_GETTEXT and its carriage
+// returns and line feeds written as \r and \n. Exit code 0 when found, 2 when
+// no such window is shown.
+#include <windows.h>
+
+#include <cstdio>
+#include <string>
+
+#include "utf8.h"
+
+namespace {
+
+struct Search {
+    std::wstring cls;
+    HWND found = nullptr;
+};
+
+BOOL CALLBACK VisitTopLevel(HWND top, LPARAM param) {
+    auto* search = reinterpret_cast<Search*>(param);
+    wchar_t cls[128] = {};
+    GetClassNameW(top, cls, static_cast<int>(std::size(cls)));
+    if (search->cls != cls || !IsWindowVisible(top)) return TRUE;
+    search->found = top;
+    return FALSE;
+}
+
+std::wstring WindowText(HWND window) {
+    DWORD_PTR length = 0;
+    if (!SendMessageTimeoutW(window, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, 2000, &length)) return {};
+    std::wstring text(length + 1, L'\0');
+    DWORD_PTR copied = 0;
+    if (!SendMessageTimeoutW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()),
+                             SMTO_ABORTIFHUNG, 2000, &copied)) {
+        return {};
+    }
+    text.resize(copied);
+    return text;
+}
+
+std::wstring OneLine(const std::wstring& text) {
+    std::wstring line;
+    for (const wchar_t c : text) {
+        if (c == L'\r') {
+            line += L"\\r";
+        } else if (c == L'\n') {
+            line += L"\\n";
+        } else if (c == L'\t') {
+            line += L"\\t";
+        } else {
+            line += c;
+        }
+    }
+    return line;
+}
+
+void PrintRect(const char* prefix, HWND window) {
+    RECT r = {};
+    GetWindowRect(window, &r);
+    std::printf("%s%ld,%ld,%ld,%ld", prefix, r.left, r.top, r.right, r.bottom);
+}
+
+BOOL CALLBACK PrintChild(HWND child, LPARAM) {
+    wchar_t cls[128] = {};
+    GetClassNameW(child, cls, static_cast<int>(std::size(cls)));
+    std::printf("child=%s\t%d\t", qs::tools::ToUtf8(cls).c_str(), IsWindowVisible(child) ? 1 : 0);
+    PrintRect("", child);
+    std::printf("\t%s\n", qs::tools::ToUtf8(OneLine(WindowText(child))).c_str());
+    return TRUE;
+}
+
+}  // namespace
+
+int wmain(int argc, wchar_t** argv) {
+    Search search;
+    search.cls = argc > 1 ? argv[1] : L"QuillstartDialog";
+    EnumWindows(VisitTopLevel, reinterpret_cast<LPARAM>(&search));
+    if (search.found == nullptr) {
+        std::fputs("no window\n", stderr);
+        return 2;
+    }
+    PrintRect("window=", search.found);
+    std::printf("\ntitle=%s\n", qs::tools::ToUtf8(WindowText(search.found)).c_str());
+    const HWND owner = GetWindow(search.found, GW_OWNER);
+    std::printf("owner=%s\n", owner != nullptr ? qs::tools::ToUtf8(WindowText(owner)).c_str() : "");
+    EnumChildWindows(search.found, PrintChild, 0);
+    return 0;
+}
