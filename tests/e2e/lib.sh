@@ -5,17 +5,21 @@
 # box, type, press Enter. Every effect is polled for with a time limit.
 #
 # Needs: E2E_EXE (Quillstart.exe), E2E_TOOLS (folder of recorder.exe,
-# probe.exe, winlist.exe, drivetype.exe, endtasks.exe), E2E_WORK (scratch folder),
+# probe.exe, winlist.exe, drivetype.exe, endtasks.exe, closebar.exe), E2E_WORK (scratch folder),
 # E2E_ARTIFACTS (where screenshots go).
 
 E2E_REASON=""
 E2E_SCENARIOS=()
 E2E_FUNCTIONS=()
+E2E_STARTS=()
 
-# Registers a scenario. Usage: e2e_scenario NAME FUNCTION
+# Registers a scenario. Usage: e2e_scenario NAME FUNCTION [START]
+# START prepares the data files and starts Quillstart; by default the program
+# finds itself known on this computer (no first start) and its bar comes up.
 e2e_scenario() {
   E2E_SCENARIOS+=("$1")
   E2E_FUNCTIONS+=("$2")
+  E2E_STARTS+=("${3:-e2e_start_known}")
 }
 
 # Records why the running scenario fails; returns non-zero for `|| return`.
@@ -81,8 +85,11 @@ e2e_probe() {
   [ -n "$E2E_RECT" ]
 }
 
+# A dialog carries the bar's title too: the probe tells the bar apart.
 e2e_bar_visible() {
-  xdotool search --onlyvisible --name '^Quillstart$' >/dev/null 2>&1
+  xdotool search --onlyvisible --name '^Quillstart$' >/dev/null 2>&1 &&
+    wine "$E2E_TOOLS/probe.exe" >"$E2E_WORK/probe-bar.out" 2>/dev/null &&
+    grep -q '^bar=1' "$E2E_WORK/probe-bar.out"
 }
 
 e2e_bar_gone() {
@@ -100,12 +107,31 @@ e2e_reset() {
     qs_start_wineserver
   fi
   rm -f "$(e2e_launch_log)"
+  rm -rf "$WINEPREFIX/drive_c/Morvane" "$E2E_WORK/stick/"*
+}
+
+# Starts a copy of Quillstart in the background. Usage: e2e_launch [PROGRAM]
+# (default C:\Quillstart\Quillstart.exe).
+e2e_launch() {
+  local program=${1:-'C:\Quillstart\Quillstart.exe'}
+  (cd "$WINEPREFIX/drive_c" && exec wine "$program" >>"$E2E_WORK/quillstart.log" 2>&1 &)
+}
+
+# Waits for the bar of a started copy and its Command box.
+e2e_wait_bar() {
+  qs_poll 30 e2e_bar_visible || e2e_fail "the bar window did not appear within 30 s" || return 1
+  qs_poll 10 e2e_probe || e2e_fail "the probe found no Command box in the bar"
 }
 
 e2e_start_quillstart() {
-  (cd "$WINEPREFIX/drive_c/Quillstart" && exec wine 'C:\Quillstart\Quillstart.exe' >"$E2E_WORK/quillstart.log" 2>&1 &)
-  qs_poll 30 e2e_bar_visible || e2e_fail "the bar window did not appear within 30 s" || return 1
-  qs_poll 10 e2e_probe || e2e_fail "the probe found no Command box in the bar"
+  e2e_launch "$@"
+  e2e_wait_bar
+}
+
+# The usual start: Quillstart has run on this computer before.
+e2e_start_known() {
+  e2e_seed_family C
+  e2e_start_quillstart
 }
 
 # Clicks into the middle of the Command box, which gives it the focus.
@@ -205,6 +231,8 @@ e2e_run_all() {
   local passed=0 failed=0 no_bar=0 i name began
   for i in "${!E2E_SCENARIOS[@]}"; do
     name=${E2E_SCENARIOS[$i]}
+    # E2E_ONLY, a pattern, picks scenarios by function name when working on a few.
+    [[ -z "${E2E_ONLY:-}" || "${E2E_FUNCTIONS[$i]}" =~ $E2E_ONLY ]] || continue
     if [ "$no_bar" -ge 3 ]; then
       echo "FAIL  $name: not run, the bar did not appear in three scenarios"
       failed=$((failed + 1))
@@ -214,7 +242,7 @@ e2e_run_all() {
     E2E_SHOT_PREFIX=$(printf '%02d-%s' "$((i + 1))" "${E2E_FUNCTIONS[$i]}")
     e2e_reset
     began=$SECONDS
-    if ! e2e_start_quillstart; then
+    if ! "${E2E_STARTS[$i]}"; then
       no_bar=$((no_bar + 1))
       e2e_screenshot failed
       echo "FAIL  $name: $E2E_REASON ($((SECONDS - began)) s)"

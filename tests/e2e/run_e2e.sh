@@ -27,6 +27,8 @@ E2E_FAILED=0
 source scripts/session.sh
 # shellcheck source=lib.sh
 source tests/e2e/lib.sh
+# shellcheck source=data.sh
+source tests/e2e/data.sh
 # shellcheck source=scenarios_web.sh
 source tests/e2e/scenarios_web.sh
 # shellcheck source=scenarios_shell.sh
@@ -35,6 +37,12 @@ source tests/e2e/scenarios_shell.sh
 source tests/e2e/scenarios_keys.sh
 # shellcheck source=scenarios_dialog.sh
 source tests/e2e/scenarios_dialog.sh
+# shellcheck source=scenarios_lists.sh
+source tests/e2e/scenarios_lists.sh
+# shellcheck source=scenarios_start.sh
+source tests/e2e/scenarios_start.sh
+# shellcheck source=scenarios_flash.sh
+source tests/e2e/scenarios_flash.sh
 
 finish() {
   qs_stop_wine
@@ -48,7 +56,7 @@ mkdir -p "$E2E_ARTIFACTS"
 
 setup_error=""
 for f in "$E2E_EXE" "$E2E_TOOLS/recorder.exe" "$E2E_TOOLS/probe.exe" "$E2E_TOOLS/winlist.exe" "$E2E_TOOLS/drivetype.exe" \
-  "$E2E_TOOLS/endtasks.exe"; do
+  "$E2E_TOOLS/endtasks.exe" "$E2E_TOOLS/closebar.exe" "$E2E_TOOLS/children.exe"; do
   [ -f "$f" ] || setup_error="missing $f (build with scripts/build.sh win)"
 done
 if [ -z "$setup_error" ]; then

@@ -5,6 +5,7 @@
 //   text=<text of the box>
 //   sel=<start>,<end>
 //   rect=<left>,<top>,<right>,<bottom>   (the box, screen pixels)
+//   bar=<1 when the box is the shown bar's, 0 when it is a dialog's>
 // Exit code 0 when found, 2 when no such window or box exists.
 #include <windows.h>
 
@@ -19,6 +20,7 @@ namespace {
 struct Search {
     std::wstring title;
     HWND edit = nullptr;
+    HWND top = nullptr;
     int rank = 0;
 };
 
@@ -53,6 +55,7 @@ BOOL CALLBACK VisitTopLevel(HWND top, LPARAM param) {
     const int rank = 1 + (lstrcmpW(cls, kBarClass) == 0 ? 2 : 0) + (IsWindowVisible(top) ? 1 : 0);
     if (rank > search->rank) {
         search->edit = edit;
+        search->top = top;
         search->rank = rank;
     }
     return TRUE;
@@ -90,5 +93,9 @@ int wmain(int argc, wchar_t** argv) {
     std::printf("text=%s\n", qs::tools::ToUtf8(text).c_str());
     std::printf("sel=%lu,%lu\n", static_cast<unsigned long>(start), static_cast<unsigned long>(end));
     std::printf("rect=%ld,%ld,%ld,%ld\n", rect.left, rect.top, rect.right, rect.bottom);
+    wchar_t cls[64] = {};
+    GetClassNameW(search.top, cls, static_cast<int>(std::size(cls)));
+    const bool bar = lstrcmpW(cls, kBarClass) == 0 && IsWindowVisible(search.top);
+    std::printf("bar=%d\n", bar ? 1 : 0);
     return 0;
 }
