@@ -20,7 +20,7 @@ void Check(HRESULT result, const char* call) {
 
 }  // namespace
 
-void Win32System::CreateShortcut(const ShortcutSpec& shortcut) {
+void Win32System::CreateShortcut(const ShortcutDetails& shortcut) {
     ComScope com;
     ComPtr<IShellLinkW> link;
     Check(::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,

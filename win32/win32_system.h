@@ -40,7 +40,7 @@ public:
     CalendarDate Today() override;
 
     void StartScreenSaver() override;
-    void CreateShortcut(const ShortcutSpec& shortcut) override;
+    void CreateShortcut(const ShortcutDetails& shortcut) override;
 
     [[noreturn]] void EndProgram() override;
 

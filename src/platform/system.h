@@ -29,7 +29,7 @@ struct CalendarDate {
     std::int32_t day = 0;
 };
 
-struct ShortcutSpec {
+struct ShortcutDetails {
     std::wstring linkPath;
     std::wstring targetPath;
     std::int32_t windowStyle = 1;
@@ -95,7 +95,7 @@ public:
 
     // Desktop integration.
     virtual void StartScreenSaver() = 0;
-    virtual void CreateShortcut(const ShortcutSpec& shortcut) = 0;
+    virtual void CreateShortcut(const ShortcutDetails& shortcut) = 0;
 
     // Ends the process at once, nothing saved.
     [[noreturn]] virtual void EndProgram() = 0;

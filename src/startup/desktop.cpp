@@ -28,7 +28,7 @@ void StartScreenSaver(Application& app) {
 
 void StartShortcutCreate(Application& app) {
     try {
-        ShortcutSpec link;
+        ShortcutDetails link;
         link.linkPath = ShortcutFile(app);
         link.targetPath = app.ProgramFile;
         link.windowStyle = 1;

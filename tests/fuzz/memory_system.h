@@ -50,7 +50,7 @@ public:
     PixelRect WorkArea() override { return {0, 0, 1920, 1040}; }
     CalendarDate Today() override { return {2026, 11, 15}; }
     void StartScreenSaver() override {}
-    void CreateShortcut(const ShortcutSpec&) override {}
+    void CreateShortcut(const ShortcutDetails&) override {}
     [[noreturn]] void EndProgram() override { __builtin_trap(); }
 };
 

@@ -211,7 +211,7 @@ void FakeSystem::WriteTextFile(const std::wstring& path, const std::wstring& tex
     if (!out) throw SystemCallFailed("cannot write");
 }
 
-void FakeSystem::CreateShortcut(const ShortcutSpec& shortcut) {
+void FakeSystem::CreateShortcut(const ShortcutDetails& shortcut) {
     if (shellThrows) throw SystemCallFailed("shell");
     PutFile(shortcut.linkPath, "lnk");
     shortcuts.push_back(shortcut);

@@ -42,7 +42,7 @@ public:
     bool anotherCopyRunning = false;
     int surfaced = 0;
     int screenSaverStarts = 0;
-    std::vector<ShortcutSpec> shortcuts;
+    std::vector<ShortcutDetails> shortcuts;
     std::int32_t screenWidthTwips = 1920 * 15;
     std::int32_t screenHeightTwips = 1080 * 15;
     std::int32_t twipsPerPixel = 15;
@@ -80,7 +80,7 @@ public:
     PixelRect WorkArea() override { return workArea; }
     CalendarDate Today() override { return today; }
     void StartScreenSaver() override { ++screenSaverStarts; }
-    void CreateShortcut(const ShortcutSpec& shortcut) override;
+    void CreateShortcut(const ShortcutDetails& shortcut) override;
     [[noreturn]] void EndProgram() override { throw ProgramEnded{}; }
 
     std::map<wchar_t, DriveType> driveTypes;

@@ -99,15 +99,15 @@ TEST(Win32SingleInstance, SecondHolderSeesTheFirst) {
 TEST(Win32Shortcut, SavedLinkHoldsEveryField) {
     qs::win::Win32System sys;
     const std::wstring folder = TempFolder();
-    qs::ShortcutSpec spec;
-    spec.linkPath = folder + L"QuillstartTest.lnk";
-    spec.targetPath = L"C:\\windows\\notepad.exe";
-    spec.windowStyle = 1;
-    spec.hotkey = L"CTRL+SHIFT+L";
-    spec.iconLocation = L"C:\\windows\\notepad.exe, 0";
-    spec.description = L"Quillstart";
-    spec.workingDirectory = L"C:\\windows\\";
-    sys.CreateShortcut(spec);
+    qs::ShortcutDetails shortcut;
+    shortcut.linkPath = folder + L"QuillstartTest.lnk";
+    shortcut.targetPath = L"C:\\windows\\notepad.exe";
+    shortcut.windowStyle = 1;
+    shortcut.hotkey = L"CTRL+SHIFT+L";
+    shortcut.iconLocation = L"C:\\windows\\notepad.exe, 0";
+    shortcut.description = L"Quillstart";
+    shortcut.workingDirectory = L"C:\\windows\\";
+    sys.CreateShortcut(shortcut);
 
     qs::win::ComScope com;
     qs::win::ComPtr<IShellLinkW> link;
@@ -115,7 +115,7 @@ TEST(Win32Shortcut, SavedLinkHoldsEveryField) {
                                              reinterpret_cast<void**>(link.Put()))));
     qs::win::ComPtr<IPersistFile> file;
     ASSERT_TRUE(SUCCEEDED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(file.Put()))));
-    ASSERT_TRUE(SUCCEEDED(file->Load(spec.linkPath.c_str(), STGM_READ)));
+    ASSERT_TRUE(SUCCEEDED(file->Load(shortcut.linkPath.c_str(), STGM_READ)));
     WORD hotkey = 0;
     link->GetHotkey(&hotkey);
     EXPECT_EQ(hotkey, MAKEWORD('L', HOTKEYF_CONTROL | HOTKEYF_SHIFT));
@@ -131,15 +131,15 @@ TEST(Win32Shortcut, SavedLinkHoldsEveryField) {
     int show = 0;
     link->GetShowCmd(&show);
     EXPECT_EQ(show, SW_SHOWNORMAL);
-    ::DeleteFileW(spec.linkPath.c_str());
+    ::DeleteFileW(shortcut.linkPath.c_str());
 }
 
 TEST(Win32Shortcut, SavingIntoAMissingFolderThrows) {
     qs::win::Win32System sys;
-    qs::ShortcutSpec spec;
-    spec.linkPath = L"C:\\no\\such\\folder\\Quillstart.lnk";
-    spec.targetPath = L"C:\\windows\\notepad.exe";
-    EXPECT_THROW(sys.CreateShortcut(spec), qs::SystemCallFailed);
+    qs::ShortcutDetails shortcut;
+    shortcut.linkPath = L"C:\\no\\such\\folder\\Quillstart.lnk";
+    shortcut.targetPath = L"C:\\windows\\notepad.exe";
+    EXPECT_THROW(sys.CreateShortcut(shortcut), qs::SystemCallFailed);
 }
 
 }  // namespace
