@@ -1,13 +1,16 @@
 #!/usr/bin/env bash
 # Installs the Debian 12 packages that building and testing Quillstart need:
-# the native and mingw-w64 compilers, CMake, Ninja, GoogleTest, Wine, and the
-# X tools that drive the program under Wine. Does nothing, silently, when all
+# the native and mingw-w64 compilers, CMake, Ninja, GoogleTest, clang with its
+# runtime libraries (libFuzzer and AddressSanitizer live in libclang-rt-14-dev,
+# which clang only recommends), Wine, and the X tools that drive the program
+# under Wine. Does nothing, silently, when all
 # of them are present.
 set -euo pipefail
 
 packages=(
   cmake ninja-build g++ libgtest-dev googletest
   g++-mingw-w64-x86-64-posix
+  clang libclang-rt-14-dev
   wine wine64
   xvfb xdotool x11-apps imagemagick openbox
 )

@@ -4,9 +4,12 @@
 #   (a) the unit tests, native, with ctest
 #   (b) the same unit tests as a Windows program under Wine, in a fresh prefix
 #   (c) the end-to-end suite: the real Quillstart.exe driven under Wine
+#   (d) fuzzing: each libFuzzer target of tests/fuzz built with clang and run
+#       for a few seconds, one test per target
 # Prints the result of each level and ends with "total: N passed, M failed".
-# Exit status 0 only when nothing failed. QS_NATIVE_BUILD and QS_WIN_BUILD
-# name other build folders than build/native and build/win.
+# Exit status 0 only when nothing failed. QS_NATIVE_BUILD, QS_WIN_BUILD and
+# QS_FUZZ_BUILD name other build folders than build/native, build/win and
+# build/fuzz.
 set -uo pipefail
 cd "$(dirname "$0")/.." || exit 1
 export QS_NATIVE_BUILD=${QS_NATIVE_BUILD:-build/native}
@@ -103,6 +106,16 @@ if [ -s "$work/e2e.result" ]; then
   level_result "(c) end-to-end" "$passed" "$failed"
 else
   level_result "(c) end-to-end (no result)" 0 1
+fi
+
+echo "== (d) fuzzing"
+fuzz_seconds=5
+FUZZ_RESULT="$work/fuzz.result" bash tests/fuzz/run_fuzz.sh "$fuzz_seconds"
+if [ -s "$work/fuzz.result" ]; then
+  read -r passed failed <"$work/fuzz.result"
+  level_result "(d) fuzzing, ${fuzz_seconds} s per target" "$passed" "$failed"
+else
+  level_result "(d) fuzzing (no result)" 0 1
 fi
 
 end_with_total

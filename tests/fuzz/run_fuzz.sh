@@ -1,25 +1,74 @@
-#!/bin/sh
-# Builds the fuzz targets with clang in build/fuzz and runs each for the given
-# number of seconds (default 10), printing how many inputs each one ran.
-set -eu
+#!/usr/bin/env bash
+# Builds the fuzz targets (scripts/build.sh fuzz, clang, in build/fuzz) and
+# runs each for SECONDS (default 10) from its kept corpus in
+# build/fuzz/corpus/. Every run has a memory limit (-rss_limit_mb), a limit
+# per input (-timeout) and a hard limit on the whole run (timeout), so a
+# crash, a broken check, a leak, a memory blow-up or a hang all count as a
+# failure of that target. Prints each target's result and how many inputs it
+# executed; a failing target's report and crashing input stay in build/fuzz/.
+# Usage: tests/fuzz/run_fuzz.sh [SECONDS]
+# When FUZZ_RESULT names a file, "PASSED FAILED" (one count per target) is
+# written to it. Exit status 0 only when every target built and ran clean.
+# QS_FUZZ_BUILD names another build folder than build/fuzz.
+set -uo pipefail
 seconds=${1:-10}
-root=$(cd "$(dirname "$0")/../.." && pwd)
-build="$root/build/fuzz"
-cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-  -DCMAKE_CXX_COMPILER=clang++ -DQS_BUILD_FUZZ=ON -DQS_BUILD_TESTS=OFF -DQS_BUILD_BENCH=OFF >/dev/null
-ninja -C "$build" -j2 fuzz_record_reader fuzz_list_reader fuzz_family_readers
-status=0
-for target in fuzz_record_reader fuzz_list_reader fuzz_family_readers; do
+cd "$(dirname "$0")/../.." || exit 1
+build=${QS_FUZZ_BUILD:-build/fuzz}
+export QS_FUZZ_BUILD=$build
+targets=(fuzz_record_reader fuzz_list_reader fuzz_family_readers)
+rss_limit_mb=1024
+# Room for loading the corpus and writing the final statistics on top of the
+# fuzzing time itself.
+hard_limit=$((seconds + 120))
+
+passed=0
+failed=0
+finish() {
+  [ -n "${FUZZ_RESULT:-}" ] && echo "$passed $failed" >"$FUZZ_RESULT"
+  [ "$failed" -eq 0 ]
+  exit $?
+}
+
+mkdir -p "$build"
+if ! bash scripts/build.sh fuzz >"$build/build.log" 2>&1; then
+  tail -40 "$build/build.log"
+  echo "fuzz targets did not build (log: $build/build.log)"
+  failed=${#targets[@]}
+  finish
+fi
+
+for target in "${targets[@]}"; do
   corpus="$build/corpus/$target"
-  mkdir -p "$corpus"
+  artifacts="$build/artifacts"
   log="$build/$target.log"
-  if "$build/tests/fuzz/$target" "$corpus" -max_total_time="$seconds" -max_len=4096 -rss_limit_mb=1024 -timeout=10 >"$log" 2>&1; then
-    result=ok
+  mkdir -p "$corpus" "$artifacts"
+  timeout --kill-after=10 "$hard_limit" "$build/tests/fuzz/$target" "$corpus" \
+    -max_total_time="$seconds" -max_len=4096 -rss_limit_mb="$rss_limit_mb" -timeout=10 \
+    -print_final_stats=1 -artifact_prefix="$artifacts/$target-" >"$log" 2>&1
+  rc=$?
+  # libFuzzer ends a clean run with "#N DONE ..." and, asked for its final
+  # statistics, "stat::number_of_executed_units: N".
+  done_line=$(grep -E '^#[0-9]+[[:space:]]+DONE' "$log" | tail -1)
+  units=$(sed -nE 's/^stat::number_of_executed_units: *([0-9]+).*/\1/p' "$log" | tail -1)
+  if [ "$rc" -eq 124 ] || [ "$rc" -eq 137 ]; then
+    result="FAILED (still running after ${hard_limit} s)"
+  elif [ "$rc" -ne 0 ]; then
+    result="FAILED (exit status $rc)"
+  elif [ -z "$units" ] || [ "$units" -eq 0 ]; then
+    result="FAILED (no inputs executed)"
   else
-    result=FAILED
-    status=1
+    result=ok
   fi
-  runs=$(grep -o 'Done [0-9]* runs' "$log" | tail -1 | grep -o '[0-9]*' || echo "?")
-  echo "$target: $result, $runs runs in ${seconds} s"
+  echo "$target: $result, ${units:-?} inputs executed in ${seconds} s"
+  [ -n "$done_line" ] && echo "  $done_line"
+  [ -n "$units" ] && echo "  stat::number_of_executed_units: $units"
+  if [ "$result" = ok ]; then
+    passed=$((passed + 1))
+  else
+    failed=$((failed + 1))
+    grep -E '^INFO: Seed:' "$log"
+    tail -40 "$log"
+    echo "  full log: $log; crashing or hanging inputs, if any: $artifacts/$target-*"
+  fi
 done
-exit $status
+finish
