@@ -38,12 +38,13 @@ qs_wm_answers() {
 }
 
 # Starts Xvfb on a free display and openbox on it, and exports DISPLAY.
+# QS_SCREEN sets the screen's size in pixels (1280x800).
 # Usage: qs_start_display LOG_DIR
 qs_start_display() {
   local logs=$1 n
   for n in $(seq 90 160); do
     qs_display_free "$n" || continue
-    Xvfb ":$n" -screen 0 1280x800x24 -nolisten tcp >"$logs/xvfb.log" 2>&1 &
+    Xvfb ":$n" -screen 0 "${QS_SCREEN:-1280x800}x24" -nolisten tcp >"$logs/xvfb.log" 2>&1 &
     QS_XVFB_PID=$!
     export DISPLAY=":$n"
     # The display must answer, and it must be our server that answers.

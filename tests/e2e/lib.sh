@@ -108,6 +108,7 @@ e2e_reset() {
   fi
   rm -f "$(e2e_launch_log)"
   rm -rf "$WINEPREFIX/drive_c/Morvane" "$E2E_WORK/stick/"*
+  dpi_restore
 }
 
 # Starts a copy of Quillstart in the background. Usage: e2e_launch [PROGRAM]

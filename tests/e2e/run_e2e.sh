@@ -19,6 +19,8 @@ E2E_EXE=$(realpath -m "${E2E_EXE:-$win_build/win32/Quillstart.exe}")
 E2E_TOOLS=$(realpath -m "${E2E_TOOLS:-$win_build/tests/tools}")
 E2E_ARTIFACTS=$root/build/e2e-artifacts
 E2E_WORK=$(mktemp -d /tmp/quillstart-e2e.XXXXXX)
+# Large enough for the bar at 200 % (the start-up check wants 13000 x 9600 twips).
+export QS_SCREEN=${QS_SCREEN:-1920x1440}
 E2E_TEXT=""
 E2E_PASSED=0
 E2E_FAILED=0
@@ -43,6 +45,8 @@ source tests/e2e/scenarios_lists.sh
 source tests/e2e/scenarios_start.sh
 # shellcheck source=scenarios_flash.sh
 source tests/e2e/scenarios_flash.sh
+# shellcheck source=scenarios_dpi.sh
+source tests/e2e/scenarios_dpi.sh
 
 finish() {
   qs_stop_wine
