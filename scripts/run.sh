@@ -3,8 +3,9 @@
 # it under Wine from C:\Quillstart\ in its own prefix (build/wineprefix,
 # kept between runs; WINEPREFIX overrides it).
 # With a display ($DISPLAY) the bar opens there and the command returns when
-# Quillstart ends. Without one it starts Xvfb and openbox, waits for the bar,
-# saves a screenshot, prints its path, and ends the session.
+# Quillstart ends. Without one it starts Xvfb and openbox, waits for the first
+# window (the bar, or on a first start the name prompt before it), saves a
+# screenshot, prints its path, and ends the session.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$PWD
@@ -59,4 +60,4 @@ xdotool mousemove 1279 799
 sleep 1
 shot=$root/build/run-screenshot.png
 import -window root "$shot"
-echo "run: screenshot of the bar: $shot"
+echo "run: screenshot of the screen: $shot"
