@@ -47,6 +47,8 @@ source tests/e2e/scenarios_start.sh
 source tests/e2e/scenarios_flash.sh
 # shellcheck source=scenarios_dpi.sh
 source tests/e2e/scenarios_dpi.sh
+# shellcheck source=scenarios_damaged.sh
+source tests/e2e/scenarios_damaged.sh
 
 finish() {
   qs_stop_wine

@@ -1,0 +1,33 @@
+# shellcheck shell=bash
+# A damaged settings record: text where a number belongs. The start reports
+# the failure with the bug dialog before the bar shows, goes on when it is
+# answered, and the exit writes the record anew, whole.
+
+damaged_start() {
+  local data
+  data="$(e2e_drive_dir C)/Morvane/Morvane Apps/Quillstart"
+  e2e_seed_family C
+  e2e_write_lines "$data/Set.Morvane" 10 57 100 left '""' -1 -1 -1 8 2 0
+  e2e_launch
+}
+
+damaged_record_reports_and_the_start_goes_on() {
+  qs_poll 30 dialog_heading_shows "$(dialog_user_name)" || e2e_fail "no dialog came up" || return 1
+  sleep 0.5
+  dialog_read || return 1
+  dialog_body_has 'Quillstart:Bug:ControlDataGet' || e2e_fail "the dialog does not name ControlDataGet" || return 1
+  e2e_bar_visible && { e2e_fail "the bar showed before the failure was answered" || return 1; }
+  dialog_screenshot damaged-record
+  dialog_click_button No || return 1
+  qs_poll 30 e2e_bar_visible || e2e_fail "the bar did not come after \"No\"" || return 1
+  e2e_command 'w;example.org' || return 1
+  e2e_wait_launch '"http://www.example.org"' || return 1
+  e2e_close_bar || return 1
+  local set
+  set="$(e2e_drive_dir C)/Morvane/Morvane Apps/Quillstart/Set.Morvane"
+  [ "$(grep -c $'\r$' "$set")" -eq 11 ] && [ "$(head -1 "$set")" = $'10\r' ] && ! grep -q left "$set" ||
+    e2e_fail "the record was not written anew: $(od -c "$set" | head -4 | tr '\n' '|')"
+}
+
+e2e_scenario 'a settings record with text in a number: the bug dialog before the bar, then the start goes on' \
+  damaged_record_reports_and_the_start_goes_on damaged_start
