@@ -80,17 +80,26 @@ quillstart_processes() {
   tr -d '\r' <"$E2E_WORK/winlist.out" | awk -F'\t' 'tolower($2) ~ /\\quillstart\.exe$/ { print $1 }' | sort -u | wc -l
 }
 
-# A second copy finds the first, brings its bar forward and ends at once.
+# A second copy finds the first, brings its minimised bar back with the
+# caret in the Command box, and ends at once.
 second_copy_surfaces_the_first_and_ends() {
+  local id
+  id=$(xdotool search --onlyvisible --name '^Quillstart$' | head -1)
+  xdotool windowminimize "$id"
+  qs_poll 10 e2e_bar_gone || e2e_fail "the bar could not be minimised" || return 1
   local began=$SECONDS
   (cd "$WINEPREFIX/drive_c" && timeout 30 wine 'C:\Quillstart\Quillstart.exe' >"$E2E_WORK/second.log" 2>&1)
   local status=$?
   [ "$status" -ne 124 ] || e2e_fail "the second copy was still running after 30 s" || return 1
   e2e_screenshot after-second-start
   [ "$(quillstart_processes)" -eq 1 ] || e2e_fail "expected one Quillstart with a window, found $(quillstart_processes)" || return 1
-  e2e_bar_visible || e2e_fail "the first bar is gone" || return 1
+  qs_poll 10 e2e_bar_visible || e2e_fail "the first bar did not come back" || return 1
   echo "    second copy ended after $((SECONDS - began)) s" >&2
-  e2e_command 'w;example.org' || return 1
+  # Typed straight away, without a click: the caret must already be there.
+  xdotool key End shift+Home BackSpace
+  xdotool type --delay 25 -- 'w;example.org'
+  qs_poll 5 e2e_text_is 'w;example.org' || e2e_fail "keys typed after the return did not reach the box: \"$E2E_TEXT\"" || return 1
+  xdotool key Return
   e2e_wait_launch '"http://www.example.org"'
 }
 
