@@ -127,6 +127,34 @@ TEST_F(AutoFill, EmptyGroupIsNotSearched) {
     EXPECT_EQ(t.app.PendingItemIndex, -1);
 }
 
+// A flash drive can merge two full sides into one list of more names than a
+// 16-bit last index holds: the search then gives up without a word.
+TEST_F(AutoFill, MergedListPastTheSixteenBitIndexCompletesNothingAndSaysNothing) {
+    auto& names = *t.app.frmChoose.ComboListItemName[2];
+    auto& paths = *t.app.frmChoose.ComboListItemPath[2];
+    for (int i = 0; i < 32768; ++i) {
+        names.AddItem(L"zz" + std::to_wstring(i));
+        paths.AddItem(L"C:\\Apps\\zz.exe");
+    }
+    t.Type(L"p-m");
+    EXPECT_EQ(box().Text(), L"p-m");
+    EXPECT_EQ(t.app.PendingItemIndex, -1);
+    EXPECT_TRUE(t.dialogs.shown.empty());
+}
+
+TEST_F(AutoFill, ListOfThirtyTwoThousandSevenHundredSixtySevenNamesStillCompletes) {
+    auto& names = *t.app.frmChoose.ComboListItemName[2];
+    auto& paths = *t.app.frmChoose.ComboListItemPath[2];
+    for (int i = 1; i < 32767; ++i) {
+        names.AddItem(L"zz" + std::to_wstring(i));
+        paths.AddItem(L"C:\\Apps\\zz.exe");
+    }
+    ASSERT_EQ(names.ListCount(), 32767);
+    t.Type(L"p-m");
+    EXPECT_EQ(box().Text(), L"p-myPlayer");
+    EXPECT_EQ(t.app.PendingItemIndex, 0);
+}
+
 TEST_F(AutoFill, NameShorterThanTheTypedTextCannotMatch) {
     t.AddItem(2, L"ab", L"C:\\ab.exe");
     t.Type(L"p-abc");
