@@ -49,6 +49,8 @@ source tests/e2e/scenarios_flash.sh
 source tests/e2e/scenarios_dpi.sh
 # shellcheck source=scenarios_damaged.sh
 source tests/e2e/scenarios_damaged.sh
+# shellcheck source=scenarios_desktop.sh
+source tests/e2e/scenarios_desktop.sh
 
 finish() {
   qs_stop_wine
