@@ -6,17 +6,6 @@ namespace qs::win {
 
 namespace {
 
-BITMAPINFO TopDownInfo(int width, int height) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = width;
-    info.bmiHeader.biHeight = -height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-    return info;
-}
-
 bool SameField(const FieldRect& a, const FieldRect& b) {
     return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
 }
@@ -33,14 +22,11 @@ void FormBackground::Update(int width, int height, UINT dpi, const std::vector<F
     dpi_ = dpi;
     fields_ = fields;
     image_ = RenderPencilBar(width, height, static_cast<double>(dpi) / USER_DEFAULT_SCREEN_DPI, fields);
-    const BITMAPINFO info = TopDownInfo(width, height);
-    void* bits = nullptr;
-    bitmap_.Reset(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-    if (!bitmap_ || bits == nullptr) {
+    bitmap_ = BitmapOf(image_);
+    if (!bitmap_) {
         brush_.Reset();
         return;
     }
-    std::copy(image_.pixels.begin(), image_.pixels.end(), static_cast<std::uint32_t*>(bits));
     brush_.Reset(::CreatePatternBrush(bitmap_.Get()));
 }
 

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "pixel_image.h"
+
 namespace qs::win {
 
 struct FieldRect {
@@ -13,13 +15,6 @@ struct FieldRect {
     double top = 0;
     double right = 0;
     double bottom = 0;
-};
-
-struct PixelImage {
-    int width = 0;
-    int height = 0;
-    // 0x00RRGGBB, rows from the top.
-    std::vector<std::uint32_t> pixels;
 };
 
 // scale is DPI / 96. Fields are in pixels of the image.

@@ -4,7 +4,6 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
-#include <algorithm>
 
 #include "dpi.h"
 #include "form_window.h"
@@ -13,17 +12,6 @@
 namespace qs::win {
 
 namespace {
-
-BITMAPINFO TopDownInfo(int width, int height) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = width;
-    info.bmiHeader.biHeight = -height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-    return info;
-}
 
 // The class of picture windows: no painting or input of its own; the
 // subclass procedure of each picture does both.
@@ -80,14 +68,8 @@ HBITMAP PictureBoxWindow::ButtonBitmap(int width, int height, ButtonLook look) {
     }
     const PixelImage image =
         RenderRoundButton(width, height, static_cast<double>(dpi) / USER_DEFAULT_SCREEN_DPI, look);
-    const BITMAPINFO info = TopDownInfo(width, height);
-    void* bits = nullptr;
-    bitmap_.Reset(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-    if (!bitmap_ || bits == nullptr) {
-        bitmap_.Reset();
-        return nullptr;
-    }
-    std::copy(image.pixels.begin(), image.pixels.end(), static_cast<std::uint32_t*>(bits));
+    bitmap_ = BitmapOf(image);
+    if (!bitmap_) return nullptr;
     bitmapWidth_ = width;
     bitmapHeight_ = height;
     bitmapDpi_ = dpi;

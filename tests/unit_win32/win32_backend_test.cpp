@@ -20,8 +20,12 @@
 #include "win32_backend.h"
 #include "win32_system.h"
 #include "window_names.h"
+#include "window_test_support.h"
 
 namespace {
+
+using qs::test::Pump;
+using qs::test::TextOf;
 
 class TestForm : public qs::ui::Form {
 public:
@@ -45,21 +49,6 @@ public:
     qs::ui::ListBox HiddenList;
     qs::ui::Label Caption;
 };
-
-std::wstring TextOf(HWND window) {
-    wchar_t buffer[512] = {};
-    ::GetWindowTextW(window, buffer, 512);
-    return buffer;
-}
-
-// Runs the queued messages of this thread.
-void Pump() {
-    MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-        ::TranslateMessage(&message);
-        ::DispatchMessageW(&message);
-    }
-}
 
 class Win32BackendTest : public ::testing::Test {
 protected:

@@ -20,8 +20,12 @@
 #include "ui/timer.h"
 #include "win32_backend.h"
 #include "window_names.h"
+#include "window_test_support.h"
 
 namespace {
+
+using qs::test::Pump;
+using qs::test::TextOf;
 
 class DialogForm : public qs::ui::Form {
 public:
@@ -52,20 +56,6 @@ public:
     qs::ui::PictureBox Image;
     qs::ui::Timer Tick;
 };
-
-void Pump() {
-    MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-        ::TranslateMessage(&message);
-        ::DispatchMessageW(&message);
-    }
-}
-
-std::wstring TextOf(HWND window) {
-    wchar_t buffer[512] = {};
-    ::GetWindowTextW(window, buffer, 512);
-    return buffer;
-}
 
 LPARAM At(int x, int y) { return MAKELPARAM(x, y); }
 

@@ -1,0 +1,24 @@
+#pragma once
+// What the window tests do with real windows of this thread: run the queued
+// messages and read a window's text.
+#include <windows.h>
+
+#include <string>
+
+namespace qs::test {
+
+inline void Pump() {
+    MSG message;
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        ::TranslateMessage(&message);
+        ::DispatchMessageW(&message);
+    }
+}
+
+inline std::wstring TextOf(HWND window) {
+    wchar_t buffer[512] = {};
+    ::GetWindowTextW(window, buffer, 512);
+    return buffer;
+}
+
+}  // namespace qs::test
