@@ -3,11 +3,11 @@
 #include <cmath>
 
 #include "common/application.h"
+#include "common/failure.h"
 #include "data/active_family.h"
 #include "data/control_data.h"
 #include "data/launch_list.h"
 #include "startup/always_on_top.h"
-#include "common/failure.h"
 
 namespace qs {
 
