@@ -18,9 +18,10 @@ void EnsureFolder(Application& app, const std::wstring& folder) {
 
 void AtStartPrevInstance(Application& app) {
     try {
-        // The running copy's bar comes forward; this copy leaves in silence.
-        app.sys.SurfaceRunningCopy();
-        app.sys.EndProgram();
+        // The running copy's bar comes forward and this copy leaves in
+        // silence; when no running bar is found the flag was a false alarm
+        // and this copy starts normally.
+        if (app.sys.SurfaceRunningCopy()) app.sys.EndProgram();
     } catch (const std::exception&) {
         ReportBug(app, L"AtStartPrevInstance");
     }
