@@ -10,23 +10,19 @@
 
 namespace qs::win {
 
-// A caption as a STATIC control, in the form's font or in the label's own
-// size and weight at the form's DPI.
+// A caption as a STATIC control over the form's face; a click on it is the
+// label's Click.
 class LabelWindow : public ControlWindow {
 public:
     LabelWindow(FormWindow& form, ui::Label& label, int id) : ControlWindow(form, label, id), label_(label) {}
     void Create() override;
+    void OnCommand(WORD code) override;
 
 protected:
     void OnChanged(ui::Property what) override;
-    HFONT ControlFont() override;
 
 private:
     ui::Label& label_;
-    FontHandle font_;
-    UINT fontDpi_ = 0;
-    std::int16_t fontSize_ = 0;
-    bool fontBold_ = false;
 };
 
 // A push button; a click is the button's Click.
@@ -85,6 +81,8 @@ public:
     void Create() override;
     void OnCommand(WORD code) override;
     bool TakesFocus() const override { return Handle() != nullptr && Model().Visible(); }
+    COLORREF DefaultTextColor() const override { return ::GetSysColor(COLOR_WINDOWTEXT); }
+    HBRUSH DefaultBackground(HDC) override { return nullptr; }
     void ItemInserted(std::int32_t index) override;
     void ItemRemoved(std::int32_t index) override;
     void ItemChanged(std::int32_t index) override;

@@ -1,5 +1,9 @@
 #include "control_window.h"
 
+#include <utility>
+
+#include "color_ref.h"
+#include "dialog_look.h"
 #include "dpi.h"
 #include "form_window.h"
 
@@ -33,7 +37,57 @@ void ControlWindow::CreateChild(const wchar_t* windowClass, DWORD style, DWORD e
     form_.ChildCreated();
 }
 
-HFONT ControlWindow::ControlFont() { return form_.Font(); }
+void ControlWindow::DestroyChild() {
+    if (window_ == nullptr) return;
+    ::DestroyWindow(std::exchange(window_, nullptr));
+}
+
+HFONT ControlWindow::ControlFont() const {
+    if (control_.FontSize() == 0 && !control_.FontBold()) return form_.Font();
+    const UINT dpi = form_.Dpi();
+    if (!font_ || fontDpi_ != dpi || fontSize_ != control_.FontSize() || fontBold_ != control_.FontBold()) {
+        LOGFONTW font = MessageFontAt(dpi);
+        if (control_.FontSize() > 0) font.lfHeight = -::MulDiv(control_.FontSize(), static_cast<int>(dpi), 72);
+        font.lfWeight = control_.FontBold() ? FW_BOLD : FW_NORMAL;
+        font.lfQuality = CLEARTYPE_QUALITY;
+        font_.Reset(::CreateFontIndirectW(&font));
+        fontDpi_ = dpi;
+        fontSize_ = control_.FontSize();
+        fontBold_ = control_.FontBold();
+        WindowDc dc(form_.Handle());
+        SelectScope select(dc.Get(), font_.Get());
+        TEXTMETRICW metrics{};
+        ::GetTextMetricsW(dc.Get(), &metrics);
+        fontLineHeight_ = metrics.tmHeight + ::MulDiv(2, static_cast<int>(dpi), USER_DEFAULT_SCREEN_DPI);
+    }
+    return font_ ? font_.Get() : form_.Font();
+}
+
+LONG ControlWindow::LineHeight() const {
+    if (ControlFont() != form_.Font()) return fontLineHeight_;
+    return form_.LineHeight();
+}
+
+COLORREF ControlWindow::DefaultTextColor() const {
+    return form_.Model().Style() == ui::FormStyle::Dialog ? ColorRefOf(kDialogTextColor) : ::GetSysColor(COLOR_BTNTEXT);
+}
+
+HBRUSH ControlWindow::DefaultBackground(HDC dc) { return form_.FaceBrushFor(window_, dc); }
+
+HBRUSH ControlWindow::ControlColor(HDC dc) {
+    const ui::Color fore = control_.ForeColor();
+    ::SetTextColor(dc, fore == ui::DefaultColor ? DefaultTextColor() : ColorRefOf(fore));
+    const ui::Color back = control_.BackColor();
+    if (back == ui::DefaultColor) return DefaultBackground(dc);
+    const COLORREF color = ColorRefOf(back);
+    if (!brush_ || brushColor_ != color) {
+        brush_.Reset(::CreateSolidBrush(color));
+        brushColor_ = color;
+    }
+    ::SetBkColor(dc, color);
+    ::SetBkMode(dc, OPAQUE);
+    return brush_.Get();
+}
 
 RECT ControlWindow::PixelRect() const {
     const UINT dpi = form_.Dpi();
@@ -81,6 +135,17 @@ void ControlWindow::Changed(ui::Property what) {
             break;
         case ui::Property::TabIndex:
             form_.TabIndexChanged(*this);
+            break;
+        case ui::Property::Font:
+            if (window_ != nullptr) {
+                ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(ControlFont()), TRUE);
+                ApplyGeometry();
+            }
+            break;
+        case ui::Property::Colors:
+            // The window asks for its colours again as it repaints.
+            if (window_ != nullptr) ::InvalidateRect(window_, nullptr, TRUE);
+            form_.FieldsMoved();
             break;
         default:
             break;

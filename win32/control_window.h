@@ -6,6 +6,7 @@
 
 #include <memory>
 
+#include "handles.h"
 #include "ui/control.h"
 
 namespace qs::win {
@@ -42,14 +43,27 @@ public:
     void Relayout() { ApplyGeometry(); }
     // Whether the keyboard focus may rest on this control.
     virtual bool TakesFocus() const { return false; }
+    // The answer to the WM_CTLCOLOR... message the window sent its form:
+    // the text and background colours set into dc and the brush to fill
+    // with; null leaves the system's own answer.
+    HBRUSH ControlColor(HDC dc);
 
 protected:
     // Creates the child window with the control's geometry and state.
     void CreateChild(const wchar_t* windowClass, DWORD style, DWORD exStyle = 0);
+    // Destroys the child window; the control goes on without one.
+    void DestroyChild();
     virtual void OnChanged(ui::Property) {}
-    // The font of the window: the form's, unless the control has its own.
-    virtual HFONT ControlFont();
+    // The font of the window: the form's, unless the control has a size or
+    // weight of its own, which it gets at the form's DPI.
+    HFONT ControlFont() const;
+    // Height of one line of the window's font in a single-line box.
+    LONG LineHeight() const;
     virtual RECT PixelRect() const;
+    // The look of the control's kind where the program sets no colour: by
+    // default it shows the form's face beneath it in the form's text colour.
+    virtual COLORREF DefaultTextColor() const;
+    virtual HBRUSH DefaultBackground(HDC dc);
     FormWindow& Form() const { return form_; }
 
 private:
@@ -60,6 +74,16 @@ private:
     int id_;
     HWND window_ = nullptr;
     bool detached_ = false;
+    // The control's own background brush, made again only when its colour
+    // changes.
+    BrushHandle brush_;
+    COLORREF brushColor_ = 0;
+    // The control's own font, when it has one.
+    mutable FontHandle font_;
+    mutable UINT fontDpi_ = 0;
+    mutable std::int16_t fontSize_ = 0;
+    mutable bool fontBold_ = false;
+    mutable LONG fontLineHeight_ = 0;
 };
 
 // The peer for a control of the given kind.

@@ -1,14 +1,14 @@
 #pragma once
-// The colours of a dialog form: a calm light face with a slate line round
-// it, dark text, and white fields with a light line for the text boxes.
-#include <cstdint>
+// The look a form and its controls have when the program gives them no
+// colour of their own: a dialog has a calm light face with a slate line
+// round it, dark text, and white fields with a light line for its text boxes.
+#include "ui/color.h"
 
 namespace qs::win {
 
-inline constexpr std::uint32_t kDialogFaceColor = 0xF3F5F8;
-inline constexpr std::uint32_t kDialogBorderColor = 0x8794A6;
-inline constexpr std::uint32_t kDialogFieldLineColor = 0xB4BECB;
-inline constexpr std::uint32_t kDialogTextColor = 0x252A31;
-inline constexpr std::uint32_t kDialogFieldColor = 0xFFFFFF;
+inline constexpr ui::Color kDialogFaceColor = ui::Rgb(0xF3, 0xF5, 0xF8);
+inline constexpr ui::Color kDialogBorderColor = ui::Rgb(0x87, 0x94, 0xA6);
+inline constexpr ui::Color kDialogFieldLineColor = ui::Rgb(0xB4, 0xBE, 0xCB);
+inline constexpr ui::Color kDialogTextColor = ui::Rgb(0x25, 0x2A, 0x31);
 
 }  // namespace qs::win

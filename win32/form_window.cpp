@@ -2,12 +2,16 @@
 
 #include <windows.h>
 #include <commctrl.h>
+#include <windowsx.h>
 
 #include <algorithm>
 
+#include "art/catalogue.h"
+#include "color_ref.h"
 #include "dialog_look.h"
 #include "dpi.h"
 #include "res/resource_ids.h"
+#include "ui/picture_box.h"
 #include "window_names.h"
 
 namespace qs::win {
@@ -22,9 +26,20 @@ UINT SurfaceMessage() {
     return message;
 }
 
-COLORREF ToColorRef(std::uint32_t rgb) { return RGB((rgb >> 16) & 0xFF, (rgb >> 8) & 0xFF, rgb & 0xFF); }
-
 bool IsBorderless(const ui::Form& form) { return form.Style() == ui::FormStyle::Borderless; }
+
+// The line round a text box's field on a dialog: a shade of the box's own
+// colour, darker on a light box and lighter on a dark one.
+COLORREF FieldLineColor(ui::Color back) {
+    if (back == ui::DefaultColor) return ColorRefOf(kDialogFieldLineColor);
+    const COLORREF c = ColorRefOf(back);
+    const int r = GetRValue(c);
+    const int g = GetGValue(c);
+    const int b = GetBValue(c);
+    const bool light = (r * 299 + g * 587 + b * 114) / 1000 > 128;
+    const auto shade = [light](int v) { return light ? v * 62 / 100 : v + (255 - v) * 40 / 100; };
+    return RGB(shade(r), shade(g), shade(b));
+}
 
 // The program's own icon at a system size; the stock one where the module
 // carries none.
@@ -59,11 +74,7 @@ void FormWindow::RegisterClasses(HINSTANCE instance) {
 }
 
 FormWindow::FormWindow(HINSTANCE instance, ui::Form& form)
-    : form_(form),
-      fieldBrush_(::CreateSolidBrush(ToColorRef(IsBorderless(form) ? kPencilFieldColor : kDialogFieldColor))),
-      faceBrush_(::CreateSolidBrush(ToColorRef(kDialogFaceColor))),
-      borderBrush_(::CreateSolidBrush(ToColorRef(kDialogBorderColor))),
-      fieldLineBrush_(::CreateSolidBrush(ToColorRef(kDialogFieldLineColor))) {
+    : form_(form) {
     dpi_ = SystemDpi();
     const bool borderless = IsBorderless(form_);
     // Neither style has a caption or a close box: a dialog's title is a
@@ -197,6 +208,10 @@ void FormWindow::Changed(ui::Property what) {
         case ui::Property::TopMost:
             ApplyTopMost();
             break;
+        case ui::Property::Colors:
+        case ui::Property::Picture:
+            FieldsMoved();
+            break;
         default:
             break;
     }
@@ -249,16 +264,6 @@ void FormWindow::ReportMove() {
     form_.UserMoved(PixelsToTwips(r.left, dpi_), PixelsToTwips(r.top, dpi_));
 }
 
-LRESULT FormWindow::DialogColors(HDC dc, const ControlWindow* control) const {
-    ::SetTextColor(dc, ToColorRef(kDialogTextColor));
-    if (control != nullptr && control->Model().Kind() == ui::ControlKind::TextBox) {
-        ::SetBkColor(dc, ToColorRef(kDialogFieldColor));
-        return reinterpret_cast<LRESULT>(fieldBrush_.Get());
-    }
-    ::SetBkColor(dc, ToColorRef(kDialogFaceColor));
-    return reinterpret_cast<LRESULT>(faceBrush_.Get());
-}
-
 void FormWindow::FocusFirstControl() {
     for (const ControlWindow* control : tabOrder_) {
         const HWND child = control->Handle();
@@ -285,53 +290,90 @@ void FormWindow::Surface() {
     }
 }
 
-std::vector<RECT> FormWindow::VisibleTextBoxes() const {
-    std::vector<RECT> boxes;
-    for (const auto& control : controls_) {
-        const HWND child = control->Handle();
-        if (control->Model().Kind() != ui::ControlKind::TextBox || child == nullptr || !::IsWindowVisible(child)) {
-            continue;
-        }
-        RECT r{};
-        ::GetWindowRect(child, &r);
-        ::MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&r), 2);
-        boxes.push_back(r);
-    }
-    return boxes;
+RECT FormWindow::ControlRect(const ui::Control& control) const {
+    RECT r;
+    r.left = TwipsToPixels(control.Left(), dpi_);
+    r.top = TwipsToPixels(control.Top(), dpi_);
+    r.right = r.left + TwipsToPixels(control.Width(), dpi_);
+    r.bottom = r.top + TwipsToPixels(control.Height(), dpi_);
+    return r;
 }
 
-void FormWindow::UpdateBackground() {
+FaceDesign FormWindow::DesignFace() const {
+    FaceDesign design;
     RECT client{};
     ::GetClientRect(Handle(), &client);
-    const double scale = static_cast<double>(dpi_) / USER_DEFAULT_SCREEN_DPI;
-    std::vector<FieldRect> fields;
-    for (const RECT& r : VisibleTextBoxes()) {
-        const double around = 3.0 * scale;
-        const double edgeRoom = 2.0 * scale;
-        fields.push_back({r.left - 4.0 * scale, std::max(edgeRoom, r.top - around), r.right + 2.0 * scale,
-                          std::min(client.bottom - edgeRoom, r.bottom + around)});
+    design.width = client.right;
+    design.height = client.bottom;
+    design.dpi = dpi_;
+    const bool dialog = !IsBorderless(form_);
+    // A form the program gives no colour keeps its style's own face.
+    const ui::Color back = form_.BackColor();
+    if (back != ui::DefaultColor) {
+        design.back = ColorRefOf(back);
+    } else {
+        design.back = dialog ? ColorRefOf(kDialogFaceColor) : ::GetSysColor(COLOR_BTNFACE);
     }
-    background_.Update(client.right, client.bottom, dpi_, fields);
+    design.picture = form_.Picture();
+    for (const auto& control : controls_) {
+        const ui::Control& model = control->Model();
+        if (!model.Visible()) continue;
+        if (model.Kind() == ui::ControlKind::PictureBox) {
+            const ui::PictureRef& picture = static_cast<const ui::PictureBox&>(model).Picture();
+            if (IsStripPicture(picture)) design.strips.push_back({ControlRect(model), picture});
+        }
+        // On a dialog a thin line sets each shown text box's field off.
+        if (dialog && model.Kind() == ui::ControlKind::TextBox && control->Handle() != nullptr) {
+            RECT r{};
+            ::GetWindowRect(control->Handle(), &r);
+            ::MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&r), 2);
+            ::InflateRect(&r, 1, 1);
+            design.lines.push_back({r, FieldLineColor(model.BackColor())});
+        }
+    }
+    // A dialog without a picture of its own has a thin line all round, to set
+    // it off from what lies behind it; a picture brings its own edge.
+    if (dialog && design.picture.Empty()) design.lines.push_back({client, ColorRefOf(kDialogBorderColor)});
+    return design;
+}
+
+void FormWindow::UpdateFace() {
+    if (face_.Update(DesignFace())) {
+        ::RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+    }
+}
+
+const PixelImage& FormWindow::Face() {
+    UpdateFace();
+    return face_.Image();
+}
+
+HBRUSH FormWindow::FaceBrushFor(HWND child, HDC dc) {
+    UpdateFace();
+    RECT r{};
+    ::GetWindowRect(child, &r);
+    ::MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&r), 2);
+    ::SetBrushOrgEx(dc, -r.left, -r.top, nullptr);
+    ::SetBkColor(dc, face_.Back());
+    ::SetBkMode(dc, TRANSPARENT);
+    return face_.Brush();
+}
+
+bool FormWindow::OverStrip(POINT point) const {
+    for (const auto& control : controls_) {
+        const ui::Control& model = control->Model();
+        if (!model.Visible() || model.Kind() != ui::ControlKind::PictureBox) continue;
+        if (!IsStripPicture(static_cast<const ui::PictureBox&>(model).Picture())) continue;
+        const RECT r = ControlRect(model);
+        if (::PtInRect(&r, point) != FALSE) return true;
+    }
+    return false;
 }
 
 void FormWindow::Paint() {
+    UpdateFace();
     PaintScope paint(Handle());
-    if (!IsBorderless(form_)) {
-        RECT client{};
-        ::GetClientRect(Handle(), &client);
-        ::FillRect(paint.Get(), &client, faceBrush_.Get());
-        // A thin line all round sets the dialog off from what lies behind
-        // it, and one round each text box marks its field.
-        ::FrameRect(paint.Get(), &client, borderBrush_.Get());
-        for (const RECT& field : VisibleTextBoxes()) {
-            RECT line = field;
-            ::InflateRect(&line, 1, 1);
-            ::FrameRect(paint.Get(), &line, fieldLineBrush_.Get());
-        }
-        return;
-    }
-    UpdateBackground();
-    background_.PaintTo(paint.Get());
+    face_.PaintTo(paint.Get());
 }
 
 LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -351,24 +393,15 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             break;
         case WM_CTLCOLOREDIT:
         case WM_CTLCOLORSTATIC:
-        case WM_CTLCOLORBTN: {
-            const auto dc = reinterpret_cast<HDC>(wParam);
-            const ControlWindow* control = ControlById(::GetDlgCtrlID(reinterpret_cast<HWND>(lParam)));
-            if (!IsBorderless(form_)) return DialogColors(dc, control);
-            ::SetTextColor(dc, ToColorRef(kPencilTextColor));
-            if (control != nullptr && control->Model().Kind() == ui::ControlKind::TextBox) {
-                ::SetBkColor(dc, ToColorRef(kPencilFieldColor));
-                return reinterpret_cast<LRESULT>(fieldBrush_.Get());
+        case WM_CTLCOLORBTN:
+        case WM_CTLCOLORLISTBOX:
+            // Each control answers for its own colours.
+            if (ControlWindow* control = ControlById(::GetDlgCtrlID(reinterpret_cast<HWND>(lParam)))) {
+                if (const HBRUSH brush = control->ControlColor(reinterpret_cast<HDC>(wParam))) {
+                    return reinterpret_cast<LRESULT>(brush);
+                }
             }
-            // Anything else shows the part of the picture it covers.
-            UpdateBackground();
-            RECT r{};
-            ::GetWindowRect(reinterpret_cast<HWND>(lParam), &r);
-            ::MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&r), 2);
-            ::SetBrushOrgEx(dc, -r.left, -r.top, nullptr);
-            ::SetBkMode(dc, TRANSPARENT);
-            return reinterpret_cast<LRESULT>(background_.Brush());
-        }
+            break;
         case WM_COMMAND:
             if (lParam != 0) {
                 if (ControlWindow* control = ControlById(LOWORD(wParam))) control->OnCommand(HIWORD(wParam));
@@ -382,7 +415,9 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             }
             break;
         case WM_LBUTTONDOWN:
-            // The body of a form is its caption: dragging it moves the window.
+            // The bare body of a form is its caption: dragging it moves the
+            // window. The strips lying on it are not bare.
+            if (OverStrip({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) return 0;
             ::ReleaseCapture();
             ::SendMessageW(window, WM_NCLBUTTONDOWN, HTCAPTION, 0);
             return 0;

@@ -1,9 +1,9 @@
 #pragma once
 // The top-level window of a loaded form and the peers of its controls. Every
-// form is a popup without caption that the user drags by its body: a
-// borderless form shows the bar's picture, a dialog form a light face with a
-// thin line round it. Geometry is kept in twips by the form and turned
-// into pixels at the window's DPI.
+// form is a popup without caption that the user drags by its bare body. Its
+// face is its back colour or its picture, with the strips that lie on it;
+// each control answers for its own colours. Geometry is kept in twips by the
+// form and turned into pixels at the window's DPI.
 #include <windows.h>
 
 #include <memory>
@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "control_window.h"
-#include "form_background.h"
+#include "form_face.h"
 #include "handles.h"
 #include "ui/form.h"
 
@@ -36,8 +36,14 @@ public:
     // Height of one line of the form's font in a single-line box.
     LONG LineHeight() const { return lineHeight_; }
     LONG ClientHeight() const;
-    // A text box moved or showed: the fields behind them are repainted.
+    // Something the face shows moved, showed or changed (a strip, a text
+    // box's field): the face is composed again when next painted.
     void FieldsMoved();
+    // The face as it is now, in the form's client pixels.
+    const PixelImage& Face();
+    // A brush of the face for a child window that shows the face beneath
+    // it, aligned to the child; its text goes over it transparently.
+    HBRUSH FaceBrushFor(HWND child, HDC dc);
     // A control's tab index changed: its window moves in the tab order.
     void TabIndexChanged(ControlWindow& control);
     // A control made its window after the form's: it takes its tab place.
@@ -62,12 +68,15 @@ private:
     void ApplyDpi(UINT dpi, const RECT* suggested);
     void MakeFont();
     void Paint();
-    // Where the shown text boxes lie, in the form's client pixels.
-    std::vector<RECT> VisibleTextBoxes() const;
-    // The picture for the form's present size, DPI and text boxes.
-    void UpdateBackground();
-    // Text and background of a control on a dialog form.
-    LRESULT DialogColors(HDC dc, const ControlWindow* control) const;
+    // What the face is to show now.
+    FaceDesign DesignFace() const;
+    // Composes the face if its design changed, and repaints the children
+    // that show it.
+    void UpdateFace();
+    // The part of the client area a control's design covers.
+    RECT ControlRect(const ui::Control& control) const;
+    // True when the point lies on one of the form's strips.
+    bool OverStrip(POINT point) const;
     // The focus goes to the first control in tab order that may take it.
     void FocusFirstControl();
     // Puts the child windows in the tab order.
@@ -78,11 +87,7 @@ private:
     ui::Form& form_;
     WindowHandle window_;
     FontHandle font_;
-    BrushHandle fieldBrush_;
-    BrushHandle faceBrush_;
-    BrushHandle borderBrush_;
-    BrushHandle fieldLineBrush_;
-    FormBackground background_;
+    FormFace face_;
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     LONG lineHeight_ = 0;
     std::vector<std::unique_ptr<ControlWindow>> controls_;

@@ -4,9 +4,10 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
-
+#include "art/catalogue.h"
 #include "dpi.h"
 #include "form_window.h"
+#include "picture_cache.h"
 #include "window_names.h"
 
 namespace qs::win {
@@ -44,37 +45,29 @@ PictureBoxWindow::PictureBoxWindow(FormWindow& form, ui::PictureBox& picture, in
     : ControlWindow(form, picture, id), picture_(picture) {}
 
 void PictureBoxWindow::Create() {
+    if (!IsStripPicture(picture_.Picture())) MakeWindow();
+}
+
+void PictureBoxWindow::MakeWindow() {
     CreateChild(PictureClass(), 0);
     if (Handle() == nullptr) return;
     ::SetWindowSubclass(Handle(), PictureProc, 1, reinterpret_cast<DWORD_PTR>(this));
 }
 
 void PictureBoxWindow::OnChanged(ui::Property what) {
-    if (Handle() == nullptr) return;
-    if (what == ui::Property::Picture || what == ui::Property::Geometry || what == ui::Property::Enabled) {
-        ::InvalidateRect(Handle(), nullptr, FALSE);
+    if (what != ui::Property::Picture) {
+        if (Handle() != nullptr && (what == ui::Property::Geometry || what == ui::Property::Enabled)) {
+            ::InvalidateRect(Handle(), nullptr, FALSE);
+        }
+        return;
     }
-}
-
-ButtonLook PictureBoxWindow::ShownLook() const {
-    const ButtonLook look = LookOfPicture(picture_.Picture());
-    return look == ButtonLook::Up && hover_ && picture_.Enabled() ? ButtonLook::Hover : look;
-}
-
-HBITMAP PictureBoxWindow::ButtonBitmap(int width, int height, ButtonLook look) {
-    const UINT dpi = Form().Dpi();
-    if (bitmap_ && bitmapWidth_ == width && bitmapHeight_ == height && bitmapDpi_ == dpi && bitmapLook_ == look) {
-        return bitmap_.Get();
-    }
-    const PixelImage image =
-        RenderRoundButton(width, height, static_cast<double>(dpi) / USER_DEFAULT_SCREEN_DPI, look);
-    bitmap_ = BitmapOf(image);
-    if (!bitmap_) return nullptr;
-    bitmapWidth_ = width;
-    bitmapHeight_ = height;
-    bitmapDpi_ = dpi;
-    bitmapLook_ = look;
-    return bitmap_.Get();
+    // A picture box that comes to show a strip gives up its window and
+    // becomes part of the face; one that stops showing a strip gets one.
+    const bool strip = IsStripPicture(picture_.Picture());
+    if (strip && Handle() != nullptr) DestroyChild();
+    if (!strip && Handle() == nullptr) MakeWindow();
+    if (Handle() != nullptr) ::InvalidateRect(Handle(), nullptr, FALSE);
+    Form().FieldsMoved();
 }
 
 void PictureBoxWindow::Paint() {
@@ -85,32 +78,20 @@ void PictureBoxWindow::Paint() {
     const int width = client.right;
     const int height = client.bottom;
     if (width <= 0 || height <= 0) return;
-    // Drawn off screen first, so the button never flickers: the form's own
-    // background for this place, then the button over it.
-    MemoryDc canvasDc(paint.Get());
-    BitmapHandle canvas(::CreateCompatibleBitmap(paint.Get(), width, height));
-    SelectScope selectCanvas(canvasDc.Get(), canvas.Get());
-    auto background = reinterpret_cast<HBRUSH>(::SendMessageW(
-        ::GetParent(window), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(canvasDc.Get()), reinterpret_cast<LPARAM>(window)));
-    ::FillRect(canvasDc.Get(), &client, background != nullptr ? background : ::GetSysColorBrush(COLOR_BTNFACE));
-    const ButtonLook look = ShownLook();
-    if (look != ButtonLook::None) {
-        if (const HBITMAP button = ButtonBitmap(width, height, look)) {
-            MemoryDc buttonDc(paint.Get());
-            SelectScope selectButton(buttonDc.Get(), button);
-            const BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-            ::AlphaBlend(canvasDc.Get(), 0, 0, width, height, buttonDc.Get(), 0, 0, width, height, blend);
-        }
-    }
-    ::BitBlt(paint.Get(), 0, 0, width, height, canvasDc.Get(), 0, 0, SRCCOPY);
-}
-
-void PictureBoxWindow::TrackLeave() {
-    TRACKMOUSEEVENT track{};
-    track.cbSize = sizeof(track);
-    track.dwFlags = TME_LEAVE;
-    track.hwndTrack = Handle();
-    ::TrackMouseEvent(&track);
+    // The form's face where the picture lies, then the picture over it,
+    // put together off screen and shown in one piece, so it never flickers.
+    POINT origin{0, 0};
+    ::MapWindowPoints(window, Form().Handle(), &origin, 1);
+    const PixelImage& face = Form().Face();
+    PixelImage canvas;
+    canvas.width = width;
+    canvas.height = height;
+    canvas.pixels.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0xFF000000u);
+    BlendInto(canvas, face, -origin.x, -origin.y);
+    BlendInto(canvas, PictureCache::Shared().Get(picture_.Picture(), width, height, Form().Dpi()), 0, 0);
+    const BITMAPINFO info = TopDownInfo(width, height);
+    ::SetDIBitsToDevice(paint.Get(), 0, 0, static_cast<DWORD>(width), static_cast<DWORD>(height), 0, 0, 0,
+                        static_cast<UINT>(height), canvas.pixels.data(), &info, DIB_RGB_COLORS);
 }
 
 void PictureBoxWindow::Pressed(std::int16_t button, WPARAM keys, LPARAM at) {
@@ -163,17 +144,15 @@ LRESULT PictureBoxWindow::HandlePicture(UINT message, WPARAM wParam, LPARAM lPar
         case WM_CAPTURECHANGED:
             held_ = 0;
             return 0;
-        case WM_MOUSEMOVE:
-            if (!hover_) {
-                hover_ = true;
-                TrackLeave();
-                ::InvalidateRect(window, nullptr, FALSE);
-            }
+        case WM_MOUSEMOVE: {
+            const UINT dpi = Form().Dpi();
+            const std::int16_t button = (wParam & MK_LBUTTON) != 0 ? ui::LeftButton
+                                        : (wParam & MK_RBUTTON) != 0 ? ui::RightButton
+                                                                     : 0;
+            picture_.UserMouseMove(button, ShiftState(wParam), PixelsToTwips(GET_X_LPARAM(lParam), dpi),
+                                   PixelsToTwips(GET_Y_LPARAM(lParam), dpi));
             return 0;
-        case WM_MOUSELEAVE:
-            hover_ = false;
-            ::InvalidateRect(window, nullptr, FALSE);
-            return 0;
+        }
         default:
             return ::DefSubclassProc(window, message, wParam, lParam);
     }

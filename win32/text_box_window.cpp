@@ -50,11 +50,17 @@ RECT TextBoxWindow::PixelRect() const {
     // line of its font, centred on the part of the room the form shows.
     const LONG visibleBottom = std::min<LONG>(r.bottom, Form().ClientHeight());
     const LONG room = visibleBottom - r.top;
-    const LONG line = Form().LineHeight();
+    const LONG line = LineHeight();
     if (line <= 0 || line >= room) return r;
     r.top += (room - line) / 2;
     r.bottom = r.top + line;
     return r;
+}
+
+HBRUSH TextBoxWindow::DefaultBackground(HDC dc) {
+    // The box's own look: the system's field colour.
+    ::SetBkColor(dc, ::GetSysColor(COLOR_WINDOW));
+    return ::GetSysColorBrush(COLOR_WINDOW);
 }
 
 void TextBoxWindow::OnChanged(ui::Property what) {

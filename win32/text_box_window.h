@@ -1,8 +1,8 @@
 #pragma once
-// A text box as an EDIT control. The user's keys go to the control's
-// KeyPress first, which may swallow them; edits and selection moves are
-// reported back; text and selection written by code are mirrored without
-// echoing a change back.
+// A text box as an EDIT control in the box's own colours and font. The
+// user's keys go to the control's KeyPress first, which may swallow them;
+// edits and selection moves are reported back; text and selection written by
+// code are mirrored without echoing a change back.
 #include "control_window.h"
 #include "ui/text_box.h"
 
@@ -19,6 +19,7 @@ public:
 protected:
     void OnChanged(ui::Property what) override;
     RECT PixelRect() const override;
+    HBRUSH DefaultBackground(HDC dc) override;
 
 private:
     static LRESULT CALLBACK EditProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,

@@ -8,7 +8,13 @@ namespace qs {
 namespace {
 
 constexpr std::int16_t KeyEnter = 13;
+constexpr std::int16_t KeyEscape = 27;
 constexpr std::int16_t KeyBackspace = 8;
+
+// A click on a shown reply button, as the user's own click would be.
+void ClickIfShown(ui::PictureBox& image) {
+    if (image.Visible() && image.Enabled()) image.UserClick();
+}
 
 const wchar_t* const NameCaptions[3] = {L"First Name", L"Last Name", L"Nick Name"};
 
@@ -40,6 +46,9 @@ FrmMessage::FrmMessage(Application& app)
 
     LoadEvent = [this] { FormLoad(); };
     TextMessage.KeyPress = [this](std::int16_t& key) { TextMessageKeyPress(key); };
+    // A reply button's caption answers a click as its button does.
+    LabelOK.Click = [this] { ClickIfShown(ImageOK); };
+    LabelCancel.Click = [this] { ClickIfShown(ImageCancel); };
     ImageOK.Click = [this] { MessageReplyOK(app_); };
     ImageCancel.Click = [this] { MessageReplyCancel(app_); };
     ImageOK.MouseDown = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
@@ -103,12 +112,24 @@ void FrmMessage::FormLoad() {
     Move(left, top, MessageFormWidth, MessageFormHeight);
 }
 
-void FrmMessage::TextMessageKeyPress(std::int16_t& key) { key = 0; }
+void FrmMessage::TextMessageKeyPress(std::int16_t& key) {
+    // The box is read-only: every key is swallowed, but Enter answers with
+    // the first button and Esc with the second, where each is shown.
+    const std::int16_t typed = key;
+    key = 0;
+    if (typed == KeyEnter) ClickIfShown(ImageOK);
+    if (typed == KeyEscape) ClickIfShown(ImageCancel);
+}
 
 void FrmMessage::TextNameKeyPress(std::int16_t& key) {
     if (key == KeyEnter) {
         key = 0;
         if (ImageOK.Visible()) ImageOK.UserClick();
+        return;
+    }
+    if (key == KeyEscape) {
+        key = 0;
+        ClickIfShown(ImageCancel);
         return;
     }
     if (key == KeyBackspace) return;

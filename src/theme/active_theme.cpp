@@ -12,10 +12,8 @@ using ui::PictureSlot;
 
 void AtStartDefaultColor(Application& app) {
     ThemeState& s = app.theme;
-    s.ThemeFormColor = {ColorGrey, ColorLight, ColorRose, ColorDark, ColorBlue, ui::Rgb(91, 132, 148),
-                        ui::Rgb(100, 100, 50)};
-    s.ThemeBoxColor = {ui::Rgb(220, 220, 220), ui::Rgb(250, 250, 250), ui::Rgb(170, 85, 105), ui::Rgb(110, 110, 110),
-                       ui::Rgb(75, 75, 240),   ui::Rgb(115, 155, 170), ui::Rgb(120, 120, 70)};
+    s.ThemeFormColor = ThemeFormColors;
+    s.ThemeBoxColor = ThemeBoxColors;
 }
 
 namespace {

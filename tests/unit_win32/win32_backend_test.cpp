@@ -380,6 +380,7 @@ TEST_F(Win32BackendTest, LabelShowsItsCaptionOverThePartOfThePictureItCovers) {
     EXPECT_EQ(TextOf(label), L"Count 1234");
     form.Caption.SetCaption(L"7");
     EXPECT_EQ(TextOf(label), L"7");
+    form.SetPicture({qs::ui::PictureSlot::ImageBack, 0});
     form.Show();
     ::UpdateWindow(window);
     // The label's background brush is the form's own picture, not a hollow

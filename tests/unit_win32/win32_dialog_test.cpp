@@ -167,17 +167,22 @@ TEST_F(Win32DialogTest, HiddenPictureTakesNoPress) {
 TEST_F(Win32DialogTest, PicturePaintsTheButtonItsSlotNamesAndNothingForABlank) {
     form.Show();
     Pump();
+    const COLORREF face = RGB(0xF3, 0xF5, 0xF8);
     form.Image.SetPicture({qs::ui::PictureSlot::ImageMU, 2});
     const COLORREF up = PictureCentre();
-    EXPECT_GT(Blue(up), Red(up) + 40) << std::hex << up;
+    EXPECT_NE(up, face);
+    // Theme 4 ("Color 5") colours its buttons blue.
+    form.Image.SetPicture({qs::ui::PictureSlot::ImageMU, 4 * 5 + 2});
+    const COLORREF blue = PictureCentre();
+    EXPECT_GT(Blue(blue), Red(blue) + 40) << std::hex << blue;
     form.Image.SetPicture({qs::ui::PictureSlot::ImageMD, 0});
     const COLORREF down = PictureCentre();
-    EXPECT_GT(Blue(down), Red(down) + 40) << std::hex << down;
+    EXPECT_NE(down, face);
     EXPECT_NE(down, up);
     form.Image.SetPicture({qs::ui::PictureSlot::ImageMZ, 0});
-    EXPECT_EQ(PictureCentre(), RGB(0xF3, 0xF5, 0xF8));
+    EXPECT_EQ(PictureCentre(), face);
     form.Image.SetPicture({});
-    EXPECT_EQ(PictureCentre(), RGB(0xF3, 0xF5, 0xF8));
+    EXPECT_EQ(PictureCentre(), face);
 }
 
 TEST_F(Win32DialogTest, CheckBoxMirrorsCaptionAndValueAndAClickTogglesIt) {
