@@ -85,6 +85,10 @@ public:
     void Create() override;
     void OnCommand(WORD code) override;
     bool TakesFocus() const override { return Handle() != nullptr && Model().Visible(); }
+    void ItemInserted(std::int32_t index) override;
+    void ItemRemoved(std::int32_t index) override;
+    void ItemChanged(std::int32_t index) override;
+    void ItemsCleared() override;
 
 protected:
     void OnChanged(ui::Property what) override;

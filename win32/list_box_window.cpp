@@ -14,9 +14,6 @@ void ListBoxWindow::OnChanged(ui::Property what) {
         case ui::Property::Visible:
             if (list_.Visible() && Handle() == nullptr) Create();
             break;
-        case ui::Property::Items:
-            if (Handle() != nullptr) WriteItems();
-            break;
         case ui::Property::ListIndex:
             if (Handle() != nullptr) WriteIndex();
             break;
@@ -25,11 +22,36 @@ void ListBoxWindow::OnChanged(ui::Property what) {
     }
 }
 
+void ListBoxWindow::ItemInserted(std::int32_t index) {
+    if (Detached() || Handle() == nullptr) return;
+    ::SendMessageW(Handle(), LB_INSERTSTRING, static_cast<WPARAM>(index),
+                   reinterpret_cast<LPARAM>(list_.List(index).c_str()));
+}
+
+void ListBoxWindow::ItemRemoved(std::int32_t index) {
+    if (Detached() || Handle() == nullptr) return;
+    ::SendMessageW(Handle(), LB_DELETESTRING, static_cast<WPARAM>(index), 0);
+}
+
+void ListBoxWindow::ItemChanged(std::int32_t index) {
+    ItemRemoved(index);
+    ItemInserted(index);
+    if (Handle() != nullptr && list_.ListIndex() == index) WriteIndex();
+}
+
+void ListBoxWindow::ItemsCleared() {
+    if (Detached() || Handle() == nullptr) return;
+    ::SendMessageW(Handle(), LB_RESETCONTENT, 0, 0);
+}
+
 void ListBoxWindow::WriteItems() {
+    // Only when the window is first made; after that it follows change by change.
     ::SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
     ::SendMessageW(Handle(), LB_RESETCONTENT, 0, 0);
-    for (const std::wstring& item : list_.Items()) {
-        ::SendMessageW(Handle(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.c_str()));
+    const std::int32_t count = list_.ListCount();
+    ::SendMessageW(Handle(), LB_INITSTORAGE, static_cast<WPARAM>(count), 0);
+    for (std::int32_t i = 0; i < count; ++i) {
+        ::SendMessageW(Handle(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(list_.List(i).c_str()));
     }
     WriteIndex();
     ::SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);

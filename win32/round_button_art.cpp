@@ -56,14 +56,17 @@ Palette PaletteOf(ButtonLook look) {
     }
 }
 
-bool StartsWith(std::wstring_view text, std::wstring_view start) { return text.substr(0, start.size()) == start; }
-
 }  // namespace
 
-ButtonLook LookOfPicture(std::wstring_view slot) {
-    if (StartsWith(slot, L"frmBut.ImageMU(") || StartsWith(slot, L"ImageZeroSet(")) return ButtonLook::Up;
-    if (StartsWith(slot, L"frmBut.ImageMD(") || slot == L"ImageZeroOver") return ButtonLook::Down;
-    return ButtonLook::None;
+ButtonLook LookOfPicture(const ui::PictureRef& picture) {
+    switch (picture.slot) {
+        case ui::PictureSlot::ImageMU:
+            return ButtonLook::Up;
+        case ui::PictureSlot::ImageMD:
+            return ButtonLook::Down;
+        default:
+            return ButtonLook::None;
+    }
 }
 
 PixelImage RenderRoundButton(int width, int height, double scale, ButtonLook look) {

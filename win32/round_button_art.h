@@ -3,18 +3,17 @@
 // size, pixel by pixel with 4 x 4 samples per pixel, so its edge is smooth at
 // every DPI. The picture slot a control names chooses the look.
 #include <cstdint>
-#include <string_view>
 
 #include "pencil_art.h"
+#include "ui/picture.h"
 
 namespace qs::win {
 
 enum class ButtonLook { None, Up, Hover, Down };
 
-// "frmBut.ImageMU(n)" and "ImageZeroSet(n)" are a button at rest,
-// "frmBut.ImageMD(n)" and "ImageZeroOver" a pressed one; "frmBut.ImageMZ(n)",
-// "ImageZeroBlank", "" and any other name show nothing.
-ButtonLook LookOfPicture(std::wstring_view slot);
+// A medium round button (ImageMU) is a button at rest, a pressed one
+// (ImageMD) the pressed look; a blank (ImageMZ) or no picture shows nothing.
+ButtonLook LookOfPicture(const ui::PictureRef& picture);
 
 // The button centred in a width x height image of premultiplied 0xAARRGGBB
 // pixels, transparent around it, so it lies on whatever the form shows

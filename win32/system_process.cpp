@@ -48,9 +48,9 @@ bool Win32System::AnotherCopyRunning() {
     return anotherCopy_;
 }
 
-void Win32System::SurfaceRunningCopy() {
+bool Win32System::SurfaceRunningCopy() {
     const HWND bar = ::FindWindowW(kBorderlessClass, kBarCaption);
-    if (bar == nullptr) return;
+    if (bar == nullptr) return false;
     DWORD processId = 0;
     ::GetWindowThreadProcessId(bar, &processId);
     // This copy was just started by the user, so it may hand the foreground on.
@@ -58,6 +58,7 @@ void Win32System::SurfaceRunningCopy() {
     DWORD_PTR answer = 0;
     ::SendMessageTimeoutW(bar, ::RegisterWindowMessageW(kSurfaceMessage), 0, 0, SMTO_ABORTIFHUNG, 2000, &answer);
     ::SetForegroundWindow(bar);
+    return true;
 }
 
 std::int32_t Win32System::ScreenWidthTwips() { return ::GetSystemMetrics(SM_CXSCREEN) * TwipsPerPixelX(); }

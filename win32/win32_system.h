@@ -31,7 +31,7 @@ public:
 
     std::wstring ApplicationFolder() override;
     bool AnotherCopyRunning() override;
-    void SurfaceRunningCopy() override;
+    bool SurfaceRunningCopy() override;
 
     std::int32_t ScreenWidthTwips() override;
     std::int32_t ScreenHeightTwips() override;

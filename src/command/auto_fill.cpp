@@ -119,16 +119,8 @@ void FrmMain::TextMainChangeSearch(const std::wstring& text) {
         ActionFindSpecialApps(app_, rawCode, typed);
     } else if (code == L"r.") {
         if (app_.FamilyMemberCount >= 1 && text.size() >= 5) ActionFindFamilyMember(app_, rawCode, typed);
-    } else if (code == L"d-") {
-        ListSearch(rawCode, typed, 1);
-    } else if (code == L"f-") {
-        ListSearch(rawCode, typed, 0);
-    } else if (code == L"p-") {
-        ListSearch(rawCode, typed, 2);
-    } else if (code == L"e-") {
-        ListSearch(rawCode, typed, 3);
-    } else if (code == L"w-") {
-        ListSearch(rawCode, typed, 4);
+    } else if (const std::int16_t group = GroupOfListCode(code); group >= 0) {
+        ListSearch(rawCode, typed, group);
     }
 }
 

@@ -40,20 +40,6 @@ const std::array<PathForm, 15> PathForms = {{
     {L"t/", L"http://www.", L".tv", Launcher::StartA},
 }};
 
-struct ListForm {
-    const wchar_t* code;
-    std::int16_t group;
-};
-
-// Commands that name an item of the Launch List, in compare order.
-const std::array<ListForm, 5> ListForms = {{
-    {L"d-", 1},
-    {L"f-", 0},
-    {L"p-", 2},
-    {L"e-", 3},
-    {L"w-", 4},
-}};
-
 void BugCheck(Application& app) {
     if (!app.MessageToShow.empty()) MessageBug(app);
 }
@@ -133,12 +119,10 @@ void FrmMain::RunCommand(std::wstring& code, std::wstring& launchName) {
         return;
     }
 
-    for (const auto& form : ListForms) {
-        if (code != form.code) continue;
-        const std::wstring path = app_.frmChoose.ComboListItemPath[static_cast<std::size_t>(form.group)]->List(
-            app_.PendingItemIndex);
-        app_.MessageToShow = LaunchListItem(app_, form.group, path);
-        break;
+    if (const std::int16_t group = GroupOfListCode(code); group >= 0) {
+        const std::wstring path =
+            app_.frmChoose.ComboListItemPath[static_cast<std::size_t>(group)]->List(app_.PendingItemIndex);
+        app_.MessageToShow = LaunchListItem(app_, group, path);
     }
     BugCheck(app_);
 }

@@ -53,4 +53,18 @@ const std::array<CodeCharacter, 6> CodeSecondCharacters = {{
     {L";", L"Semicolon if after \"w\", adds \"http://www.\""},
 }};
 
+const std::array<ListCommandCode, 5> ListCommandCodes = {{
+    {L"d-", GroupFolder},
+    {L"f-", GroupFile},
+    {L"p-", GroupProgram},
+    {L"e-", GroupEmail},
+    {L"w-", GroupWeb},
+}};
+
+std::int16_t GroupOfListCode(const std::wstring& code) {
+    for (const auto& entry : ListCommandCodes)
+        if (code == entry.code) return entry.group;
+    return -1;
+}
+
 }  // namespace qs

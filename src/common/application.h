@@ -13,6 +13,8 @@
 #include "startup/frm_message.h"
 #include "startup/message_state.h"
 #include "startup/paths.h"
+#include "theme/theme_state.h"
+#include "windows/frm_browse.h"
 #include "windows/frm_choose.h"
 #include "windows/frm_hid.h"
 #include "windows/frm_main.h"
@@ -65,9 +67,11 @@ struct Application {
 
     MessageState message;
     Settings settings;
+    ThemeState theme;
 
     FrmHid frmHid;
     FrmMain frmMain;
+    FrmBrowse frmBrowse;
     FrmChoose frmChoose;
     FrmMessage frmMessage;
 };

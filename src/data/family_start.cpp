@@ -64,10 +64,10 @@ bool FamilyStart(Application& app) {
             // Without a member list read, the program joins behind GuruLast.
             std::int16_t joinBehind = guruRead ? app.FamilyMemberCount : f.GuruLast;
             app.FamilyMemberCount = InFamilyAddMe(app, joinBehind);
-            f.MessageBeforeMainWindow = true;
+            app.message.MessageBeforeMainWindow = true;
             app.MessageToShow = L"MessageGetUserName";
             MessageProcess(app);
-            f.MessageBeforeMainWindow = false;
+            app.message.MessageBeforeMainWindow = false;
             f.KinfoldLoaded = KinfoldRecord{7, app.FamilyMemberCount, -1, f.UserNickName, f.UserFirstName,
                                             f.UserLastName, L"", L""};
         }

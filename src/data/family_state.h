@@ -45,9 +45,6 @@ struct FamilyState {
     bool ProgramMoved = false;
     // A flash-drive run found its own record with a plain drive letter.
     bool GuruNeedsRewrite = false;
-    // True while the family start asks for the user's name, before the bar
-    // may be touched.
-    bool MessageBeforeMainWindow = false;
 };
 
 }  // namespace qs

@@ -8,6 +8,8 @@
 
 namespace qs {
 
+// `routine` is the routine's own name: "ActionListAddNew" reports
+// "Quillstart:Bug:ActionListAddNew".
 inline void ReportBug(Application& app, const wchar_t* routine) {
     app.MessageToShow = std::wstring(L"Quillstart:Bug:") + routine;
     MessageBug(app);

@@ -90,8 +90,9 @@ public:
     virtual std::wstring ApplicationFolder() = 0;
     // True when another copy of the program is already running.
     virtual bool AnotherCopyRunning() = 0;
-    // Brings the running copy's bar to the front, out of the tray if needed.
-    virtual void SurfaceRunningCopy() = 0;
+    // Brings the running copy's bar to the front, out of the tray if needed;
+    // false when no running bar was found (the flag was a false alarm).
+    virtual bool SurfaceRunningCopy() = 0;
 
     // Screen.
     virtual std::int32_t ScreenWidthTwips() = 0;

@@ -3,20 +3,17 @@
 #include "command/launchers.h"
 #include "common/application.h"
 #include "data/active_family.h"
+#include "data/report_bug.h"
 #include "common/maker.h"
 #include "startup/always_on_top.h"
 #include "startup/message_texts.h"
+#include "theme/active_theme.h"
 
 namespace qs {
 
 namespace {
 
 const std::wstring CRLF = L"\r\n";
-
-void ReportOwnFailure(Application& app, const wchar_t* tag) {
-    app.MessageToShow = tag;
-    MessageBug(app);
-}
 
 // The heading of every message is the addressee's name.
 void ComposeCommon(Application& app, const wchar_t* buttons) {
@@ -84,7 +81,7 @@ void MessageEnd(Application& app) {
         // However the dialog went away, a fatal message ends the program.
         app.sys.EndProgram();
     } catch (const std::exception&) {
-        ReportOwnFailure(app, L"Quillstart:Bug:MessageEnd");
+        ReportBug(app, L"MessageEnd");
     }
 }
 
@@ -100,7 +97,7 @@ void MessageProcess(Application& app) {
         MessageAAAct(app, app.message.MessageCaption, app.message.MessageBody, app.message.MessageButtons,
                      app.message.MessageInput);
     } catch (const std::exception&) {
-        ReportOwnFailure(app, L"Quillstart:Bug:MessageProcess");
+        ReportBug(app, L"MessageProcess");
     }
 }
 
@@ -125,16 +122,19 @@ void MessageAAAct(Application& app, std::wstring& caption, std::wstring& body, s
         form.ImageOK.SetVisible(buttons != L"Cancel");
         form.ImageCancel.SetVisible(buttons != L"OK");
         // Before the theme exists (start-up) the buttons take the fixed
-        // pictures, afterwards the theme's set-up or blank picture.
-        form.ImageOK.SetPicture(form.ReplyButtonPicture(form.ImageOK.Visible()));
-        form.ImageCancel.SetPicture(form.ReplyButtonPicture(form.ImageCancel.Visible()));
+        // pictures; afterwards the theme colours the whole window.
+        if (app.place.StartingUp) {
+            form.ImageOK.SetPicture(form.ReplyButtonPicture(form.ImageOK.Visible()));
+            form.ImageCancel.SetPicture(form.ReplyButtonPicture(form.ImageCancel.Visible()));
+        } else {
+            ThemeApplyOnMessage(app, app.settings.ThemeIndex);
+        }
         form.ShowModal();
     } catch (const std::exception&) {
         // A dialog that fails while it reports its own failure would report
         // it again without end; that one time it stays silent.
-        const wchar_t* const tag = L"Quillstart:Bug:MessageAAAct";
-        if (app.message.MessageIsBug && app.MessageToShow == tag) return;
-        ReportOwnFailure(app, tag);
+        if (app.message.MessageIsBug && app.MessageToShow == L"Quillstart:Bug:MessageAAAct") return;
+        ReportBug(app, L"MessageAAAct");
     }
 }
 
@@ -144,7 +144,7 @@ void MessageReplyCancel(Application& app) {
         app.frmMessage.Unload();
         ClearMessage(app);
     } catch (const std::exception&) {
-        ReportOwnFailure(app, L"Quillstart:Bug:MessageReplyCancel");
+        ReportBug(app, L"MessageReplyCancel");
     }
 }
 
@@ -171,7 +171,7 @@ void MessageReplyOK(Application& app) {
         app.MessageToShow = ActionContactMorvane(app, std::wstring(L"mailto:") + maker::MailAddress, subject, tag);
         if (!app.MessageToShow.empty()) MessageProcess(app);
     } catch (const std::exception&) {
-        ReportOwnFailure(app, L"Quillstart:Bug:MessageReplyOK");
+        ReportBug(app, L"MessageReplyOK");
     }
 }
 

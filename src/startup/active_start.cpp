@@ -9,6 +9,7 @@
 #include "startup/active_start_checks.h"
 #include "startup/desktop.h"
 #include "startup/saved_options.h"
+#include "theme/active_theme.h"
 
 namespace qs {
 
@@ -16,6 +17,7 @@ void Main(Application& app) {
     ProgramPlace& place = app.place;
     place.StartingUp = true;
     app.frmHid.Load();
+    AtStartDefaultColor(app);
     place.UserNameEnv = app.sys.Environment(L"username");
     place.ComputerName = app.sys.Environment(L"computername");
     if (app.sys.AnotherCopyRunning()) AtStartPrevInstance(app);
@@ -46,7 +48,9 @@ void Main(Application& app) {
         AutostartRegister(app);
 
     app.frmMain.Load();
+    app.frmBrowse.Load();
     app.frmChoose.Load();
+    ThemeCreate(app, app.settings.ThemeIndex);
     place.StartingUp = false;
     app.frmMain.Show();
     app.frmMain.TimerOnTop.SetEnabled(app.settings.OptionAlwaysOnTop != 0);

@@ -1,6 +1,7 @@
 #include "startup/active_start_checks.h"
 
 #include "common/application.h"
+#include "data/report_bug.h"
 #include "common/failure.h"
 #include "common/text_case.h"
 #include "startup/active_message.h"
@@ -8,11 +9,6 @@
 namespace qs {
 
 namespace {
-
-void ReportBug(Application& app, const wchar_t* routine) {
-    app.MessageToShow = std::wstring(L"Quillstart:Bug:") + routine;
-    MessageBug(app);
-}
 
 void EnsureFolder(Application& app, const std::wstring& folder) {
     if (!app.sys.FolderExists(folder)) app.sys.CreateFolder(folder);
@@ -22,9 +18,10 @@ void EnsureFolder(Application& app, const std::wstring& folder) {
 
 void AtStartPrevInstance(Application& app) {
     try {
-        // The running copy's bar comes forward; this copy leaves in silence.
-        app.sys.SurfaceRunningCopy();
-        app.sys.EndProgram();
+        // The running copy's bar comes forward and this copy leaves in
+        // silence; when no running bar is found the flag was a false alarm
+        // and this copy starts normally.
+        if (app.sys.SurfaceRunningCopy()) app.sys.EndProgram();
     } catch (const std::exception&) {
         ReportBug(app, L"AtStartPrevInstance");
     }

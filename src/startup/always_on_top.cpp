@@ -1,7 +1,7 @@
 #include "startup/always_on_top.h"
 
 #include "common/application.h"
-#include "startup/active_message.h"
+#include "data/report_bug.h"
 
 namespace qs {
 
@@ -9,8 +9,7 @@ void ActionAlwaysOnTopOn(Application& app) {
     try {
         app.frmMain.SetTopMost(true);
     } catch (const std::exception&) {
-        app.MessageToShow = L"Quillstart:Bug:ActionAlwaysOnTopOn";
-        MessageBug(app);
+        ReportBug(app, L"ActionAlwaysOnTopOn");
     }
 }
 
@@ -18,8 +17,7 @@ void ActionAlwaysOnTopOff(Application& app) {
     try {
         app.frmMain.SetTopMost(false);
     } catch (const std::exception&) {
-        app.MessageToShow = L"Quillstart:Bug:ActionAlwaysOnTopOff";
-        MessageBug(app);
+        ReportBug(app, L"ActionAlwaysOnTopOff");
     }
 }
 

@@ -1,6 +1,7 @@
 #include "startup/desktop.h"
 
 #include "common/application.h"
+#include "data/report_bug.h"
 #include "data/registry_value.h"
 #include "startup/active_message.h"
 
@@ -10,11 +11,6 @@ namespace {
 
 std::wstring ShortcutFile(Application& app) { return app.sys.SpecialFolder(L"Desktop") + L"\\" + L"Quillstart" + L".lnk"; }
 
-void ReportBug(Application& app, const wchar_t* tag) {
-    app.MessageToShow = tag;
-    MessageBug(app);
-}
-
 }  // namespace
 
 void StartScreenSaver(Application& app) {
@@ -22,7 +18,7 @@ void StartScreenSaver(Application& app) {
         app.frmMain.SetTextMainQuietly(L"");
         app.sys.StartScreenSaver();
     } catch (const std::exception&) {
-        ReportBug(app, L"Quillstart:Bug:StartScreenSaver");
+        ReportBug(app, L"StartScreenSaver");
     }
 }
 
@@ -41,7 +37,7 @@ void StartShortcutCreate(Application& app) {
         app.MessageToShow = L"MessageShortcutCreated";
         MessageProcess(app);
     } catch (const std::exception&) {
-        ReportBug(app, L"Quillstart:Bug:StartShortcutCrea");
+        ReportBug(app, L"StartShortcutCrea");
     }
 }
 
@@ -51,7 +47,7 @@ void StartShortcutDelete(Application& app) {
         app.MessageToShow = L"MessageShortcutDeleted";
         MessageProcess(app);
     } catch (const std::exception&) {
-        ReportBug(app, L"Quillstart:Bug:StartShortcutDelete");
+        ReportBug(app, L"StartShortcutDelete");
     }
 }
 

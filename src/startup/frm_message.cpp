@@ -83,12 +83,12 @@ void FrmMessage::RestoreDesign() {
     CheckDoNotShow.SetValue(0);
     CheckDoNotShow.SetVisible(false);
     ImageOK.Move(1200, 7680, 480, 480);
-    ImageOK.SetPicture(L"");
+    ImageOK.SetPicture({});
     ImageOK.SetVisible(true);
     LabelOK.Move(1740, 7800, 900, 255);
     LabelOK.SetCaption(L"OK");
     ImageCancel.Move(3000, 7680, 480, 480);
-    ImageCancel.SetPicture(L"");
+    ImageCancel.SetPicture({});
     ImageCancel.SetVisible(true);
     LabelCancel.Move(3540, 7800, 1000, 255);
     LabelCancel.SetCaption(L"Cancel");
@@ -127,17 +127,17 @@ void FrmMessage::TextNameChange() {
     ImageCancel.SetPicture(ReplyButtonPicture(ImageCancel.Visible()));
 }
 
-std::wstring FrmMessage::ReplyButtonPicture(bool visible) const {
-    if (app_.place.StartingUp) return visible ? L"frmBut.ImageMU(2)" : L"frmBut.ImageMZ(0)";
-    return visible ? L"ImageZeroSet(2)" : L"ImageZeroBlank";
+ui::PictureRef FrmMessage::ReplyButtonPicture(bool visible) const {
+    if (app_.place.StartingUp) return visible ? StartUpButton : StartUpBlank;
+    return visible ? app_.theme.ImageZeroSet[2] : app_.theme.ImageZeroBlank;
 }
 
 void FrmMessage::ImageButtonMouseDown(ui::PictureBox& image) {
-    image.SetPicture(app_.place.StartingUp ? L"frmBut.ImageMD(1)" : L"ImageZeroOver");
+    image.SetPicture(app_.place.StartingUp ? StartUpPressed : app_.theme.ImageZeroOver);
 }
 
 void FrmMessage::ImageButtonMouseUp(ui::PictureBox& image) {
-    image.SetPicture(app_.place.StartingUp ? L"frmBut.ImageMD(1)" : L"ImageZeroSet(2)");
+    image.SetPicture(app_.place.StartingUp ? StartUpPressed : app_.theme.ImageZeroSet[2]);
 }
 
 }  // namespace qs

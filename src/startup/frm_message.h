@@ -19,6 +19,12 @@ struct Application;
 inline constexpr std::int32_t MessageFormWidth = 5400;
 inline constexpr std::int32_t MessageFormHeight = 8652;
 
+// The fixed pictures of the reply buttons before the theme exists: the
+// button, its blank and its pressed look, straight from the holder.
+inline constexpr ui::PictureRef StartUpButton{ui::PictureSlot::ImageMU, 2};
+inline constexpr ui::PictureRef StartUpBlank{ui::PictureSlot::ImageMZ, 0};
+inline constexpr ui::PictureRef StartUpPressed{ui::PictureSlot::ImageMD, 1};
+
 class FrmMessage : public ui::Form {
 public:
     explicit FrmMessage(Application& app);
@@ -45,7 +51,7 @@ public:
 
     // The picture of a reply button that is shown or hidden, before the theme
     // exists (start-up) or from the current theme.
-    std::wstring ReplyButtonPicture(bool visible) const;
+    ui::PictureRef ReplyButtonPicture(bool visible) const;
 
 private:
     // Puts every control back as the window is designed, as a fresh load of

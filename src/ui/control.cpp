@@ -34,6 +34,24 @@ void Control::SetToolTipText(std::wstring text) {
     Notify(Property::ToolTip);
 }
 
+void Control::SetBackColor(Color color) {
+    if (backColor_ == color) return;
+    backColor_ = color;
+    Notify(Property::Colors);
+}
+
+void Control::SetForeColor(Color color) {
+    if (foreColor_ == color) return;
+    foreColor_ = color;
+    Notify(Property::Colors);
+}
+
+void Control::SetFont(std::int16_t size, bool bold) {
+    fontSize_ = size;
+    fontBold_ = bold;
+    Notify(Property::Font);
+}
+
 void Control::SetFocus() { Notify(Property::Focus); }
 
 void Control::SetTabIndex(std::int16_t index) {

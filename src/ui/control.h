@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "ui/color.h"
+
 namespace qs::ui {
 
 class Form;
@@ -16,7 +18,6 @@ enum class Property {
     Text,
     Selection,
     Locked,
-    Items,
     ListIndex,
     Picture,
     Interval,
@@ -26,6 +27,7 @@ enum class Property {
     TabIndex,
     Value,
     Font,
+    Colors,
 };
 
 enum class ControlKind { TextBox, Label, CommandButton, Timer, ListBox, PictureBox, CheckBox };
@@ -34,6 +36,12 @@ class ControlPeer {
 public:
     virtual ~ControlPeer() = default;
     virtual void Changed(Property what) = 0;
+    // A list told its window what changed, item by item, so a long list is
+    // never copied whole on one change.
+    virtual void ItemInserted(std::int32_t /*index*/) {}
+    virtual void ItemRemoved(std::int32_t /*index*/) {}
+    virtual void ItemChanged(std::int32_t /*index*/) {}
+    virtual void ItemsCleared() {}
 };
 
 class Control {
@@ -60,6 +68,17 @@ public:
     void SetEnabled(bool enabled);
     const std::wstring& ToolTipText() const { return toolTip_; }
     void SetToolTipText(std::wstring text);
+
+    // Colours; DefaultColor leaves the look of the control's kind.
+    Color BackColor() const { return backColor_; }
+    Color ForeColor() const { return foreColor_; }
+    void SetBackColor(Color color);
+    void SetForeColor(Color color);
+
+    // The size in points, 0 for the form's own size, and the weight.
+    std::int16_t FontSize() const { return fontSize_; }
+    bool FontBold() const { return fontBold_; }
+    void SetFont(std::int16_t size, bool bold);
 
     // Asks for the keyboard focus; the peer moves it on a real window.
     void SetFocus();
@@ -88,6 +107,10 @@ private:
     bool enabled_ = true;
     std::wstring toolTip_;
     std::int16_t tabIndex_ = 0;
+    Color backColor_ = DefaultColor;
+    Color foreColor_ = DefaultColor;
+    std::int16_t fontSize_ = 0;
+    bool fontBold_ = false;
     ControlPeer* peer_ = nullptr;
 };
 

@@ -11,6 +11,18 @@ void Form::SetCaption(std::wstring caption) {
     Notify(Property::Text);
 }
 
+void Form::SetBackColor(Color color) {
+    if (backColor_ == color) return;
+    backColor_ = color;
+    Notify(Property::Colors);
+}
+
+void Form::SetPicture(PictureRef picture) {
+    if (picture_ == picture) return;
+    picture_ = picture;
+    Notify(Property::Picture);
+}
+
 void Form::Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) {
     left_ = left;
     top_ = top;

@@ -6,7 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "ui/color.h"
 #include "ui/control.h"
+#include "ui/picture.h"
 
 namespace qs::ui {
 
@@ -45,6 +47,12 @@ public:
     void SetHeight(std::int32_t v) { Move(left_, top_, width_, v); }
     void Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height);
 
+    // The form's own look: a colour, or a picture laid over its whole face.
+    Color BackColor() const { return backColor_; }
+    void SetBackColor(Color color);
+    const PictureRef& Picture() const { return picture_; }
+    void SetPicture(PictureRef picture);
+
     bool IsLoaded() const { return loaded_; }
     bool Visible() const { return visible_; }
     bool TopMost() const { return topMost_; }
@@ -78,6 +86,8 @@ private:
     FormStyle style_;
     std::vector<Control*> controls_;
     std::wstring caption_;
+    Color backColor_ = DefaultColor;
+    PictureRef picture_;
     std::int32_t left_ = 0;
     std::int32_t top_ = 0;
     std::int32_t width_ = 0;

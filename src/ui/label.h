@@ -1,6 +1,8 @@
 #pragma once
 // A static caption, in the form's font or in a size and weight of its own.
+// Click fires when the user clicks it.
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "ui/control.h"
@@ -18,19 +20,19 @@ public:
         Notify(Property::Text);
     }
 
-    // The size in points, 0 for the form's own size, and the weight.
-    std::int16_t FontSize() const { return fontSize_; }
-    bool FontBold() const { return fontBold_; }
-    void SetFont(std::int16_t size, bool bold) {
-        fontSize_ = size;
-        fontBold_ = bold;
-        Notify(Property::Font);
+    std::function<void()> Click;
+    std::function<void(std::int16_t button, std::int16_t shift, std::int32_t x, std::int32_t y)> MouseMove;
+
+    // Input as a real window reports it (used by window backends).
+    void UserClick() {
+        if (Visible() && Enabled() && Click) Click();
+    }
+    void UserMouseMove(std::int16_t button, std::int16_t shift, std::int32_t x, std::int32_t y) {
+        if (MouseMove) MouseMove(button, shift, x, y);
     }
 
 private:
     std::wstring caption_;
-    std::int16_t fontSize_ = 0;
-    bool fontBold_ = false;
 };
 
 }  // namespace qs::ui

@@ -59,7 +59,7 @@ std::int32_t ListBox::FindExact(const std::wstring& item) const {
 
 void ListBox::Inserted(std::int32_t index) {
     if (listIndex_ >= index) ++listIndex_;
-    Notify(Property::Items);
+    if (ControlPeer* peer = Peer()) peer->ItemInserted(index);
 }
 
 std::int32_t ListBox::AddItem(const std::wstring& item) {
@@ -84,13 +84,13 @@ void ListBox::RemoveItem(std::int32_t index) {
     } else if (listIndex_ > index) {
         --listIndex_;
     }
-    Notify(Property::Items);
+    if (ControlPeer* peer = Peer()) peer->ItemRemoved(index);
 }
 
 void ListBox::Clear() {
     items_.Clear();
     listIndex_ = -1;
-    Notify(Property::Items);
+    if (ControlPeer* peer = Peer()) peer->ItemsCleared();
 }
 
 const std::wstring& ListBox::List(std::int32_t index) const {
@@ -101,7 +101,7 @@ const std::wstring& ListBox::List(std::int32_t index) const {
 void ListBox::SetList(std::int32_t index, const std::wstring& item) {
     if (index < 0 || index >= ListCount()) throw SubscriptOutOfRange();
     items_.Set(index, item);
-    Notify(Property::Items);
+    if (ControlPeer* peer = Peer()) peer->ItemChanged(index);
 }
 
 void ListBox::SetListIndex(std::int32_t index) {

@@ -2,8 +2,8 @@
 
 namespace qs::ui {
 
-void PictureBox::SetPicture(std::wstring picture) {
-    picture_ = std::move(picture);
+void PictureBox::SetPicture(PictureRef picture) {
+    picture_ = picture;
     Notify(Property::Picture);
 }
 
@@ -17,6 +17,16 @@ void PictureBox::UserMouseUp(std::int16_t button, std::int16_t shift, std::int32
 
 void PictureBox::UserClick() {
     if (Click) Click();
+}
+
+void PictureBox::UserMouseMove(std::int16_t button, std::int16_t shift, std::int32_t x, std::int32_t y) {
+    if (MouseMove) MouseMove(button, shift, x, y);
+}
+
+std::int16_t PictureBox::UserKeyPress(wchar_t key) {
+    auto code = static_cast<std::int16_t>(key);
+    if (KeyPress) KeyPress(code);
+    return code;
 }
 
 void PictureBox::Press() {

@@ -53,7 +53,7 @@ public:
     void WriteTextFile(const std::wstring& path, const std::wstring& text) override { files[path] = text; }
     std::wstring ApplicationFolder() override { return L"C:\\Tools\\"; }
     bool AnotherCopyRunning() override { return false; }
-    void SurfaceRunningCopy() override {}
+    bool SurfaceRunningCopy() override { return false; }
     std::int32_t ScreenWidthTwips() override { return 1920 * 15; }
     std::int32_t ScreenHeightTwips() override { return 1080 * 15; }
     std::int32_t TwipsPerPixelX() override { return 15; }

@@ -32,8 +32,8 @@ MessageRequest DialogBackend::Record(FrmMessage& form) const {
     r.okVisible = form.ImageOK.Visible();
     r.cancelVisible = form.ImageCancel.Visible();
     r.nameBoxesVisible = form.TextName[0]->Visible() && form.TextName[1]->Visible() && form.TextName[2]->Visible();
-    r.okPicture = form.ImageOK.Picture();
-    r.cancelPicture = form.ImageCancel.Picture();
+    r.okPicture = ui::PictureName(form.ImageOK.Picture());
+    r.cancelPicture = ui::PictureName(form.ImageCancel.Picture());
     return r;
 }
 

@@ -99,6 +99,7 @@ std::string FakeSystem::FileBytes(const std::wstring& windowsPath) const {
 std::int32_t FakeSystem::ShellOpen(const std::wstring& target) {
     if (shellThrows) throw SystemCallFailed("shell");
     launches.push_back({Launch::Kind::Open, target});
+    if (onLaunch) onLaunch(launches.back());
     if (shellOpenResult != 0) return shellOpenResult;
     if (StartsWith(target, L"http://") || StartsWith(target, L"https://") || StartsWith(target, L"mailto:")) return 42;
     try {
@@ -114,6 +115,7 @@ void FakeSystem::ShellRun(const std::wstring& commandLine) {
     // A program named by full path must exist; a bare name is found on the path.
     if (program.size() > 1 && program[1] == L':' && !FileExists(program)) throw SystemCallFailed("cannot start");
     launches.push_back({Launch::Kind::Run, commandLine});
+    if (onLaunch) onLaunch(launches.back());
 }
 
 std::wstring FakeSystem::SpecialFolder(const std::wstring& key) {

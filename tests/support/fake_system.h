@@ -3,6 +3,7 @@
 // temporary folders of the real file system, a registry in memory, and a
 // record of every launch.
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -41,6 +42,8 @@ public:
     std::wstring applicationFolder = L"C:\\Tools\\";
     bool anotherCopyRunning = false;
     int surfaced = 0;
+    // Whether a second start finds the running copy's bar.
+    bool runningBarFound = true;
     int screenSaverStarts = 0;
     std::vector<ShortcutDetails> shortcuts;
     std::int32_t screenWidthTwips = 1920 * 15;
@@ -50,6 +53,9 @@ public:
     CalendarDate today{2026, 11, 15};
     // When set, every shell call throws as a broken shell would.
     bool shellThrows = false;
+    // Called with each launch as it is recorded, so a test can see the
+    // program's state at the moment of the launch.
+    std::function<void(const Launch&)> onLaunch;
     // When not 0, ShellOpen records the launch and returns this instead.
     std::int32_t shellOpenResult = 0;
 
@@ -78,7 +84,10 @@ public:
     void WriteTextFile(const std::wstring& path, const std::wstring& text) override;
     std::wstring ApplicationFolder() override { return applicationFolder; }
     bool AnotherCopyRunning() override { return anotherCopyRunning; }
-    void SurfaceRunningCopy() override { ++surfaced; }
+    bool SurfaceRunningCopy() override {
+        ++surfaced;
+        return runningBarFound;
+    }
     std::int32_t ScreenWidthTwips() override { return screenWidthTwips; }
     std::int32_t ScreenHeightTwips() override { return screenHeightTwips; }
     std::int32_t TwipsPerPixelX() override { return twipsPerPixel; }

@@ -1,6 +1,7 @@
 #include "test_app.h"
 
 #include "command/default_values.h"
+#include "theme/active_theme.h"
 
 namespace qs::test {
 
@@ -9,7 +10,9 @@ TestApp::TestApp() : app(sys) {
     app.WindowsFolder = L"C:\\Windows\\";
     app.place.UserNameEnv = sys.Environment(L"username");
     AtStartDefaultValue(app);
+    AtStartDefaultColor(app);
     app.frmMain.Load();
+    ThemeCreate(app, app.settings.ThemeIndex);
     ClearBox();
 }
 

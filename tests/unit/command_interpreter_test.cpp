@@ -1,6 +1,8 @@
 // The Command box: keystrokes, the dispatcher and what each Command launches.
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "shown_messages.h"
 #include "test_app.h"
 
@@ -134,14 +136,13 @@ TEST_F(CommandBox, EscClearsTextAndClosesTheOpenPane) {
 
 TEST_F(CommandBox, CommandClosesAnOpenPaneBeforeItLaunches) {
     t.app.OpenMenuIndex = 3;
-    std::int16_t paneAtLaunch = 99;
+    std::vector<std::int16_t> paneAtLaunch;
+    t.sys.onLaunch = [&](const qs::test::Launch&) { paneAtLaunch.push_back(t.app.OpenMenuIndex); };
     t.Type(L"w;example.org");
-    t.app.frmMain.TextMain.KeyPress = [&](std::int16_t& key) {
-        t.app.frmMain.TextMainKeyPress(key);
-        paneAtLaunch = t.app.OpenMenuIndex;
-    };
+    EXPECT_EQ(t.app.OpenMenuIndex, 3);
     t.Enter();
-    EXPECT_EQ(paneAtLaunch, -1);
+    // The pane was already closed when the launch happened.
+    EXPECT_EQ(paneAtLaunch, (std::vector<std::int16_t>{-1}));
     EXPECT_EQ(t.LastTarget(), L"http://www.example.org");
 }
 

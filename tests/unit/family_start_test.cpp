@@ -48,9 +48,15 @@ TEST_F(FamilyRun, FirstStartOfTheFamilyJoinsAtZeroAsksTheNameAndWritesBothFiles)
     EXPECT_FALSE(BugShown(t, L"Quillstart:Bug:FamilyStart"));
 }
 
-TEST_F(FamilyRun, TheFirstStartNameFlagIsDownAgainAfterThePrompt) {
+TEST_F(FamilyRun, TheNamePromptShowsWithTheBeforeTheBarFlagUpAndItIsDownAfter) {
+    bool upWhilePrompting = false;
+    t.dialogs.Answer([&](qs::FrmMessage& form) {
+        upWhilePrompting = t.app.message.MessageBeforeMainWindow;
+        form.ImageCancel.Press();
+    });
     FamilyStart(t.app);
     EXPECT_EQ(NamePrompts(), 1);
+    EXPECT_TRUE(upWhilePrompting);
     EXPECT_FALSE(t.app.message.MessageBeforeMainWindow);
 }
 

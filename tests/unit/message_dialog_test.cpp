@@ -7,6 +7,7 @@
 #include "data/control_data.h"
 #include "shown_messages.h"
 #include "startup/active_message.h"
+#include "theme/active_theme.h"
 
 namespace {
 
@@ -268,8 +269,8 @@ TEST(MessageDialog, BugDialogAtStartUpShowsTheFixedImagesOfFrmBut) {
     t.app.MessageToShow = L"Quillstart:Bug:AtStartSysPath";
     qs::MessageBug(t.app);
     ASSERT_EQ(ShownMessages(t).size(), 1u);
-    EXPECT_EQ(ShownMessages(t)[0].okPicture, L"frmBut.ImageMU(2)");
-    EXPECT_EQ(ShownMessages(t)[0].cancelPicture, L"frmBut.ImageMU(2)");
+    EXPECT_EQ(ShownMessages(t)[0].okPicture, L"ImageMU(2)");
+    EXPECT_EQ(ShownMessages(t)[0].cancelPicture, L"ImageMU(2)");
 }
 
 TEST(MessageDialog, HiddenButtonAtStartUpTakesTheBlankImage) {
@@ -277,34 +278,43 @@ TEST(MessageDialog, HiddenButtonAtStartUpTakesTheBlankImage) {
     t.app.place.StartingUp = true;
     Process(t, L"MessageDriveNotReady");
     ASSERT_EQ(ShownMessages(t).size(), 1u);
-    EXPECT_EQ(ShownMessages(t)[0].okPicture, L"frmBut.ImageMU(2)");
-    EXPECT_EQ(ShownMessages(t)[0].cancelPicture, L"frmBut.ImageMZ(0)");
+    EXPECT_EQ(ShownMessages(t)[0].okPicture, L"ImageMU(2)");
+    EXPECT_EQ(ShownMessages(t)[0].cancelPicture, L"ImageMZ(0)");
 }
 
 TEST(MessageDialog, BugDialogAfterStartUpShowsTheSetUpImagesOfTheTheme) {
     TestApp t;
+    // Theme 3 ("Color 4"): its pictures differ from the fixed start-up ones.
+    std::int16_t theme = 3;
+    qs::ThemeCreate(t.app, theme);
     t.app.MessageToShow = L"Quillstart:Bug:ActionProgramStartA";
     qs::MessageBug(t.app);
     ASSERT_EQ(ShownMessages(t).size(), 1u);
-    EXPECT_EQ(ShownMessages(t)[0].okPicture, L"ImageZeroSet(2)");
-    EXPECT_EQ(ShownMessages(t)[0].cancelPicture, L"ImageZeroSet(2)");
+    EXPECT_EQ(ShownMessages(t)[0].okPicture, L"ImageMU(17)");
+    EXPECT_EQ(ShownMessages(t)[0].cancelPicture, L"ImageMU(17)");
 }
 
 TEST(MessageDialog, HiddenButtonAfterStartUpTakesTheBlankImageOfTheTheme) {
     TestApp t;
+    // Theme 3 ("Color 4"): its pictures differ from the fixed start-up ones.
+    std::int16_t theme = 3;
+    qs::ThemeCreate(t.app, theme);
     Process(t, L"MessageDriveNotReady");
     ASSERT_EQ(ShownMessages(t).size(), 1u);
-    EXPECT_EQ(ShownMessages(t)[0].okPicture, L"ImageZeroSet(2)");
-    EXPECT_EQ(ShownMessages(t)[0].cancelPicture, L"ImageZeroBlank");
+    EXPECT_EQ(ShownMessages(t)[0].okPicture, L"ImageMU(17)");
+    EXPECT_EQ(ShownMessages(t)[0].cancelPicture, L"ImageMZ(3)");
 }
 
 TEST(MessageDialog, ButtonsTakeThePressedPictureOnMouseDownAndTheSetOnMouseUp) {
     TestApp t;
+    // Theme 3 ("Color 4"): its pictures differ from the fixed start-up ones.
+    std::int16_t theme = 3;
+    qs::ThemeCreate(t.app, theme);
     t.dialogs.Answer([](qs::FrmMessage& form) {
         form.ImageOK.UserMouseDown(qs::ui::LeftButton, 0, 0, 0);
-        EXPECT_EQ(form.ImageOK.Picture(), L"ImageZeroOver");
+        EXPECT_EQ(qs::ui::PictureName(form.ImageOK.Picture()), L"ImageMD(7)");
         form.ImageOK.UserMouseUp(qs::ui::LeftButton, 0, 0, 0);
-        EXPECT_EQ(form.ImageOK.Picture(), L"ImageZeroSet(2)");
+        EXPECT_EQ(qs::ui::PictureName(form.ImageOK.Picture()), L"ImageMU(17)");
         form.ImageOK.UserClick();
     });
     Process(t, L"MessageDriveNotReady");
@@ -315,9 +325,9 @@ TEST(MessageDialog, ButtonsAtStartUpTakeTheFixedPressedPictureBothWays) {
     t.app.place.StartingUp = true;
     t.dialogs.Answer([](qs::FrmMessage& form) {
         form.ImageCancel.UserMouseDown(qs::ui::LeftButton, 0, 0, 0);
-        EXPECT_EQ(form.ImageCancel.Picture(), L"frmBut.ImageMD(1)");
+        EXPECT_EQ(qs::ui::PictureName(form.ImageCancel.Picture()), L"ImageMD(1)");
         form.ImageCancel.UserMouseUp(qs::ui::LeftButton, 0, 0, 0);
-        EXPECT_EQ(form.ImageCancel.Picture(), L"frmBut.ImageMD(1)");
+        EXPECT_EQ(qs::ui::PictureName(form.ImageCancel.Picture()), L"ImageMD(1)");
         form.ImageCancel.UserClick();
     });
     t.app.MessageToShow = L"Quillstart:Bug:ThemeCreate";

@@ -4,6 +4,7 @@
 
 #include "shown_messages.h"
 #include "startup/active_message.h"
+#include "theme/active_theme.h"
 
 namespace {
 
@@ -76,12 +77,15 @@ TEST(MessageNamePrompt, GetUserNameEnterDoesNothingUntilALetterIsTyped) {
 
 TEST(MessageNamePrompt, GetUserNameDeletingAllLettersHidesOKAgain) {
     TestApp t;
+    // Theme 3 ("Color 4"): its pictures differ from the fixed start-up ones.
+    std::int16_t theme = 3;
+    qs::ThemeCreate(t.app, theme);
     t.dialogs.Answer([](FrmMessage& form) {
         form.TextName[2]->TypeText(L"Al");
         EXPECT_TRUE(form.ImageOK.Visible());
         form.TextName[2]->TypeText(L"\b\b");
         EXPECT_FALSE(form.ImageOK.Visible());
-        EXPECT_EQ(form.ImageOK.Picture(), L"ImageZeroBlank");
+        EXPECT_EQ(qs::ui::PictureName(form.ImageOK.Picture()), L"ImageMZ(3)");
         form.ImageCancel.Press();
     });
     Ask(t, L"MessageGetUserName");
@@ -101,14 +105,17 @@ TEST(MessageNamePrompt, NameBoxesTakeLettersAndBackspaceOnly) {
 
 TEST(MessageNamePrompt, TypingShowsTheLivePreviewWithEmptyForBlankNames) {
     TestApp t;
+    // Theme 3 ("Color 4"): its pictures differ from the fixed start-up ones.
+    std::int16_t theme = 3;
+    qs::ThemeCreate(t.app, theme);
     t.dialogs.Answer([](FrmMessage& form) {
         form.TextName[1]->TypeText(L"Smith");
         EXPECT_EQ(form.TextMessage.Text(), Preview(L"Empty", L"Smith", L"Empty"));
         form.TextName[0]->TypeText(L"Ann");
         form.TextName[2]->TypeText(L"Annie");
         EXPECT_EQ(form.TextMessage.Text(), Preview(L"Ann", L"Smith", L"Annie"));
-        EXPECT_EQ(form.ImageOK.Picture(), L"ImageZeroSet(2)");
-        EXPECT_EQ(form.ImageCancel.Picture(), L"ImageZeroSet(2)");
+        EXPECT_EQ(qs::ui::PictureName(form.ImageOK.Picture()), L"ImageMU(17)");
+        EXPECT_EQ(qs::ui::PictureName(form.ImageCancel.Picture()), L"ImageMU(17)");
         form.ImageCancel.Press();
     });
     Ask(t, L"MessageGetUserName");
@@ -118,11 +125,11 @@ TEST(MessageNamePrompt, PreviewAtStartUpUsesTheFixedImages) {
     TestApp t;
     t.app.place.StartingUp = true;
     t.dialogs.Answer([](FrmMessage& form) {
-        EXPECT_EQ(form.ImageOK.Picture(), L"frmBut.ImageMZ(0)");
+        EXPECT_EQ(qs::ui::PictureName(form.ImageOK.Picture()), L"ImageMZ(0)");
         form.TextName[0]->TypeText(L"A");
-        EXPECT_EQ(form.ImageOK.Picture(), L"frmBut.ImageMU(2)");
+        EXPECT_EQ(qs::ui::PictureName(form.ImageOK.Picture()), L"ImageMU(2)");
         form.TextName[0]->TypeText(L"\b");
-        EXPECT_EQ(form.ImageOK.Picture(), L"frmBut.ImageMZ(0)");
+        EXPECT_EQ(qs::ui::PictureName(form.ImageOK.Picture()), L"ImageMZ(0)");
         form.ImageCancel.Press();
     });
     Ask(t, L"MessageGetUserName");

@@ -129,6 +129,17 @@ TEST_F(StartUp, AnotherCopyRunningIsSurfacedAndThisOneEndsSilently) {
     EXPECT_FALSE(disk.FolderExists(L"C:\\Morvane"));
 }
 
+TEST_F(StartUp, AFalseAlarmOfTheRunningFlagStartsNormally) {
+    disk.anotherCopyRunning = true;
+    disk.runningBarFound = false;
+    ProgramRun run(disk);
+    AnswerName(run);
+    qs::Main(run.app);
+    EXPECT_EQ(disk.surfaced, 1);
+    EXPECT_TRUE(run.app.frmMain.Visible());
+    EXPECT_TRUE(disk.FolderExists(L"C:\\Morvane"));
+}
+
 TEST_F(StartUp, ProgramInsideTheWindowsFolderStartsNormally) {
     disk.applicationFolder = L"C:\\Windows\\Tools\\";
     disk.PutFile(L"C:\\Windows\\Tools\\Quillstart.exe");
@@ -222,6 +233,27 @@ TEST_F(StartUp, FlashDriveRunNeverTouchesTheRunValue) {
     AnswerName(run);
     qs::Main(run.app);
     EXPECT_EQ(run.app.settings.OptionStartWithWindows, 0);
+    EXPECT_TRUE(disk.registry.empty());
+}
+
+TEST_F(StartUp, FlashDriveRunWithStartWithWindowsOnLeavesTheRunValueAloneEvenWhenMoved) {
+    disk.MapDrive(L'E', DriveType::Removable);
+    disk.applicationFolder = L"E:\\Quillstart\\";
+    disk.PutFile(L"E:\\Quillstart\\Quillstart.exe");
+    {
+        ProgramRun first(disk);
+        AnswerName(first);
+        qs::Main(first.app);
+        // "Start With Windows" is bit 0 of the saved option word.
+        first.app.settings.OptionWord = 1;
+        first.Exit();
+    }
+    disk.applicationFolder = L"E:\\Moved\\";
+    disk.PutFile(L"E:\\Moved\\Quillstart.exe");
+    ProgramRun moved(disk);
+    qs::Main(moved.app);
+    EXPECT_EQ(moved.app.settings.OptionStartWithWindows, 1);
+    EXPECT_TRUE(moved.app.family.ProgramMoved);
     EXPECT_TRUE(disk.registry.empty());
 }
 

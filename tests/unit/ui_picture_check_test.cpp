@@ -50,8 +50,8 @@ TEST(UiPictureBox, PictureChangeReachesThePeer) {
     PictureBox image{form, L"ImageTest"};
     RecordingPeer peer;
     image.AttachPeer(&peer);
-    image.SetPicture(L"frmBut.ImageMU(2)");
-    EXPECT_EQ(image.Picture(), L"frmBut.ImageMU(2)");
+    image.SetPicture(qs::ui::HolderPicture(qs::ui::PictureSlot::ImageMU, 2));
+    EXPECT_EQ(image.Picture(), (qs::ui::PictureRef{qs::ui::PictureSlot::ImageMU, 2}));
     EXPECT_EQ(peer.changes, (std::vector<qs::ui::Property>{qs::ui::Property::Picture}));
 }
 

@@ -16,15 +16,16 @@ std::uint32_t At(const qs::win::PixelImage& image, int x, int y) {
 
 std::uint32_t Alpha(std::uint32_t argb) { return argb >> 24; }
 
-TEST(RoundButtonArt, SlotNamesChooseTheLook) {
-    EXPECT_EQ(LookOfPicture(L"frmBut.ImageMU(2)"), ButtonLook::Up);
-    EXPECT_EQ(LookOfPicture(L"ImageZeroSet(2)"), ButtonLook::Up);
-    EXPECT_EQ(LookOfPicture(L"frmBut.ImageMD(1)"), ButtonLook::Down);
-    EXPECT_EQ(LookOfPicture(L"ImageZeroOver"), ButtonLook::Down);
-    EXPECT_EQ(LookOfPicture(L"frmBut.ImageMZ(0)"), ButtonLook::None);
-    EXPECT_EQ(LookOfPicture(L"ImageZeroBlank"), ButtonLook::None);
-    EXPECT_EQ(LookOfPicture(L""), ButtonLook::None);
-    EXPECT_EQ(LookOfPicture(L"ImageZeroSetting"), ButtonLook::None);
+TEST(RoundButtonArt, SlotsChooseTheLook) {
+    using qs::ui::PictureSlot;
+    EXPECT_EQ(LookOfPicture({PictureSlot::ImageMU, 2}), ButtonLook::Up);
+    EXPECT_EQ(LookOfPicture({PictureSlot::ImageMU, 17}), ButtonLook::Up);
+    EXPECT_EQ(LookOfPicture({PictureSlot::ImageMD, 1}), ButtonLook::Down);
+    EXPECT_EQ(LookOfPicture({PictureSlot::ImageMD, 7}), ButtonLook::Down);
+    EXPECT_EQ(LookOfPicture({PictureSlot::ImageMZ, 0}), ButtonLook::None);
+    EXPECT_EQ(LookOfPicture({PictureSlot::ImageMZ, 3}), ButtonLook::None);
+    EXPECT_EQ(LookOfPicture({}), ButtonLook::None);
+    EXPECT_EQ(LookOfPicture({PictureSlot::ImageMenu, 2}), ButtonLook::None);
 }
 
 TEST(RoundButtonArt, ImageHasTheAskedSize) {

@@ -310,7 +310,7 @@ TEST_F(Win32BackendTest, SecondCopyFindsTheBarByItsCaptionAndSurfacesIt) {
     form.Show();
     form.Hide();
     qs::win::Win32System sys;
-    sys.SurfaceRunningCopy();
+    EXPECT_TRUE(sys.SurfaceRunningCopy());
     EXPECT_TRUE(form.Visible());
     EXPECT_TRUE(::IsWindowVisible(window));
 }

@@ -167,16 +167,16 @@ TEST_F(Win32DialogTest, HiddenPictureTakesNoPress) {
 TEST_F(Win32DialogTest, PicturePaintsTheButtonItsSlotNamesAndNothingForABlank) {
     form.Show();
     Pump();
-    form.Image.SetPicture(L"ImageZeroSet(2)");
+    form.Image.SetPicture({qs::ui::PictureSlot::ImageMU, 2});
     const COLORREF up = PictureCentre();
     EXPECT_GT(Blue(up), Red(up) + 40) << std::hex << up;
-    form.Image.SetPicture(L"ImageZeroOver");
+    form.Image.SetPicture({qs::ui::PictureSlot::ImageMD, 0});
     const COLORREF down = PictureCentre();
     EXPECT_GT(Blue(down), Red(down) + 40) << std::hex << down;
     EXPECT_NE(down, up);
-    form.Image.SetPicture(L"ImageZeroBlank");
+    form.Image.SetPicture({qs::ui::PictureSlot::ImageMZ, 0});
     EXPECT_EQ(PictureCentre(), RGB(0xF3, 0xF5, 0xF8));
-    form.Image.SetPicture(L"");
+    form.Image.SetPicture({});
     EXPECT_EQ(PictureCentre(), RGB(0xF3, 0xF5, 0xF8));
 }
 

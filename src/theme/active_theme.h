@@ -1,0 +1,20 @@
+#pragma once
+// The theme engine: the seven colourings, the choice of pictures from the
+// holders, and one apply routine per window.
+#include <cstdint>
+
+namespace qs {
+
+struct Application;
+
+// Fills the form and box colours of the seven themes; once, at start.
+void AtStartDefaultColor(Application& app);
+// Makes theme t current: colours, picture sets, then every window that
+// exists. An index outside 0 to 6 is a bounds failure, reported.
+void ThemeCreate(Application& app, std::int16_t& t);
+
+void ThemeApplyOnMain(Application& app, std::int16_t t);
+// Called by the message system for each message, not by ThemeCreate.
+void ThemeApplyOnMessage(Application& app, std::int16_t t);
+
+}  // namespace qs
