@@ -17,8 +17,10 @@ std::size_t Slot(std::int16_t group) { return static_cast<std::size_t>(group); }
 // the failure that ended the reading early, if any. A load reads a whole file
 // first so that all its targets can be tested in one bulk call; the records
 // read before a failure are still added, and only then is the failure raised.
+// Each name and target becomes one shared text that the merged list and the
+// side list both hold.
 struct ReadRecords {
-    std::vector<std::wstring> names;
+    std::vector<ui::SharedText> names;
     std::vector<std::wstring> targets;
     std::exception_ptr failure;
 
@@ -31,7 +33,7 @@ ReadRecords ReadComputerSide(RecordReader& reader, std::int16_t lastIndex) {
     ReadRecords records;
     try {
         for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
-            std::wstring name = reader.ReadString();
+            ui::SharedText name(reader.ReadString());
             std::wstring target = reader.ReadString();
             records.names.push_back(std::move(name));
             records.targets.push_back(std::move(target));
@@ -51,7 +53,7 @@ ReadRecords ReadFlashSide(const Application& app, RecordReader& reader, std::int
             std::wstring name = reader.ReadString();
             const std::wstring stored = reader.ReadString();
             if (name.empty() || stored.empty()) break;
-            records.names.push_back(std::move(name));
+            records.names.emplace_back(std::move(name));
             records.targets.push_back(FromStoredFlashTarget(app, stored));
         }
     } catch (const std::exception&) {
@@ -69,13 +71,13 @@ void ActionLaunchListGet(Application& app, std::int16_t group, std::int16_t last
         RecordReader reader(ReadDataFile(app, file));
         auto& names = *app.frmChoose.ComboListItemName.at(Slot(group));
         auto& paths = *app.frmChoose.ComboListItemPath.at(Slot(group));
-        const ReadRecords records = ReadComputerSide(reader, lastIndex);
+        ReadRecords records = ReadComputerSide(reader, lastIndex);
         const bool tested = group < 3;
         const std::vector<bool> passes = tested ? TargetsPass(app, group, records.targets) : std::vector<bool>();
         for (std::size_t r = 0; r < records.names.size(); ++r) {
             if (tested && !passes[r]) continue;
-            const std::wstring& name = records.names[r];
-            const std::wstring& target = records.targets[r];
+            const ui::SharedText& name = records.names[r];
+            const ui::SharedText target(std::move(records.targets[r]));
             // The file is written from a sorted list, so appending the target
             // keeps it beside its name.
             names.AddItem(name);
@@ -99,12 +101,12 @@ void ActionLaunchListGetUSB(Application& app, std::int16_t group, std::int16_t l
         const bool mergedHeldItems = names.ListCount() > 0;
         if (!app.sys.FileExists(file)) return;
         RecordReader reader(ReadDataFile(app, file));
-        const ReadRecords records = ReadFlashSide(app, reader, lastIndex);
+        ReadRecords records = ReadFlashSide(app, reader, lastIndex);
         const std::vector<bool> passes = TargetsPass(app, group, records.targets);
         for (std::size_t r = 0; r < records.names.size(); ++r) {
             if (!passes[r]) continue;
-            const std::wstring& name = records.names[r];
-            const std::wstring& target = records.targets[r];
+            const ui::SharedText& name = records.names[r];
+            const ui::SharedText target(std::move(records.targets[r]));
             app.frmHid.ComboUSBItemName.at(Slot(group))->AddItem(name);
             app.frmHid.ComboUSBItemPath.at(Slot(group))->AddItem(target);
             if (mergedHeldItems) {
