@@ -1,20 +1,29 @@
-#!/usr/bin/env bash
 # Start-up benchmark: how long Quillstart.exe takes from process start to a
-# visible bar, against the smallest window program built by the same
-# toolchain (bench/empty_window.cpp). Both run under Wine on a private Xvfb
-# display with a warm, persistent wineserver, in a fresh prefix, after one
-# untimed warm-up start each.
+# visible bar, and how much memory it holds then, against the smallest window
+# program built by the same toolchain (bench/empty_window.cpp). Both run under
+# Wine on a private Xvfb display with a warm, persistent wineserver, in a
+# fresh prefix, after one untimed warm-up start each. Every start is an
+# ordinary one (Quillstart is already known on this computer), with the
+# Launch List in one of these states:
+#   empty   no list files
+#   full    all five groups at 32,767 items, the File, Folder and Program
+#           targets present, each group's targets in one folder
+#   spread  the same, with the targets spread over 1,024 folders of 32
 #
 # The stopwatch is Windows-side (bench/startwait.cpp): it takes the time just
 # before CreateProcess and polls every millisecond for a visible top-level
 # window of the new process with the expected title ("Quillstart", "Empty
-# Window"), then ends the process. Prints every run, both medians and their
-# ratio. A figure, never a pass/fail test.
-# Usage: bash bench/startup.sh   (QS_BENCH_RUNS=9 runs each by default)
+# Window"), reads the process's working set (GetProcessMemoryInfo) at that
+# moment, then ends the process, so nothing is ever saved. Prints every run,
+# the medians, their ratio to the empty window and the working sets. A
+# figure, never a pass/fail test.
+# Usage: bash bench/startup.sh   (QS_BENCH_RUNS=9 runs each by default;
+#        QS_BENCH_LISTS="empty full spread" picks the list states, in order)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 runs=${QS_BENCH_RUNS:-9}
+list_states=${QS_BENCH_LISTS:-empty full spread}
 win_build=${QS_WIN_BUILD:-build/win}
 [ "$runs" -ge 7 ] || { echo "startup: at least 7 runs make a median here" >&2; exit 2; }
 
@@ -56,23 +65,45 @@ measure() {
   tr -d '\r' <"$work/raw.out" >"$4"
 }
 
+median() {
+  sed -n 's/^median: \([0-9.]*\) ms$/\1/p' "$1"
+}
+working_set() {
+  sed -n 's/^working set: \([0-9.-]*\) MB$/\1/p' "$1"
+}
+
 echo "startup: display $DISPLAY, warm-up"
 measure 1 'C:\Quillstart\Quillstart.exe' Quillstart "$work/warm-quillstart.txt"
 measure 1 'C:\bench\empty_window.exe' 'Empty Window' "$work/warm-empty.txt"
 
-echo "startup: Quillstart.exe, $runs runs"
-measure "$runs" 'C:\Quillstart\Quillstart.exe' Quillstart "$work/quillstart.txt"
-sed 's/^/  /' "$work/quillstart.txt"
 echo "startup: empty_window.exe, $runs runs"
 measure "$runs" 'C:\bench\empty_window.exe' 'Empty Window' "$work/empty.txt"
 sed 's/^/  /' "$work/empty.txt"
-
-median() {
-  sed -n 's/^median: \([0-9.]*\) ms$/\1/p' "$1"
-}
-q=$(median "$work/quillstart.txt")
 e=$(median "$work/empty.txt")
+e_ws=$(working_set "$work/empty.txt")
+
+results=()
+for state in $list_states; do
+  case "$state" in
+    empty) ;;
+    full | spread)
+      echo "startup: seeding $state lists (5 x 32,767 items)"
+      python3 bench/seed_lists.py "$c" "$state"
+      ;;
+    *) echo "startup: unknown list state $state" >&2; exit 2 ;;
+  esac
+  echo "startup: Quillstart.exe, $state lists, $runs runs"
+  measure 1 'C:\Quillstart\Quillstart.exe' Quillstart "$work/warm-$state.txt"
+  measure "$runs" 'C:\Quillstart\Quillstart.exe' Quillstart "$work/quillstart-$state.txt"
+  sed 's/^/  /' "$work/quillstart-$state.txt"
+  results+=("$state $(median "$work/quillstart-$state.txt") $(working_set "$work/quillstart-$state.txt")")
+done
+
 echo
-echo "Quillstart.exe to visible bar:     median $q ms"
-echo "empty_window.exe to visible window: median $e ms"
-awk -v q="$q" -v e="$e" 'BEGIN { printf "ratio Quillstart / empty window:     %.2f\n", q / e }'
+printf '%-28s %10s %8s %14s %12s\n' "program" "median ms" "ratio" "working set MB" "above empty"
+printf '%-28s %10s %8s %14s %12s\n' "empty_window.exe" "$e" "1.00" "$e_ws" "0.0"
+for result in "${results[@]}"; do
+  read -r state q q_ws <<<"$result"
+  awk -v s="Quillstart.exe, $state lists" -v q="$q" -v e="$e" -v w="$q_ws" -v ew="$e_ws" \
+    'BEGIN { printf "%-28s %10s %8.2f %14s %12.1f\n", s, q, q / e, w, w - ew }'
+done

@@ -1,10 +1,14 @@
 // The Windows-side stopwatch of the start-up benchmark. Starts a program
 // several times and measures, each time, from the moment it asks Windows to
 // create the process until a visible top-level window of that process with
-// the given title exists; then ends the process and waits for it to exit.
+// the given title exists; then reads the process's working set at that
+// moment, ends the process and waits for it to exit.
 // Usage: startwait <runs> <program file> <window title>
-// Prints "run <i>: <ms> ms" for each run and "median: <ms> ms".
+// Prints "run <i>: <ms> ms, working set <MB> MB" for each run, then
+// "median: <ms> ms" and "working set: <MB> MB" (the median of the runs).
 #include <windows.h>
+
+#include <psapi.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -53,6 +57,13 @@ public:
     }
     bool Started() const { return started_; }
     DWORD Id() const { return info_.dwProcessId; }
+    // Megabytes of the process's working set now; -1 when it cannot be read.
+    double WorkingSetMB() const {
+        PROCESS_MEMORY_COUNTERS counters = {};
+        counters.cb = sizeof(counters);
+        if (!GetProcessMemoryInfo(info_.hProcess, &counters, sizeof(counters))) return -1;
+        return static_cast<double>(counters.WorkingSetSize) / (1024.0 * 1024.0);
+    }
 
 private:
     PROCESS_INFORMATION info_ = {};
@@ -63,22 +74,31 @@ double Seconds(LARGE_INTEGER from, LARGE_INTEGER to, LARGE_INTEGER frequency) {
     return static_cast<double>(to.QuadPart - from.QuadPart) / static_cast<double>(frequency.QuadPart);
 }
 
-// One start: milliseconds to the visible window, or a negative value when it
-// did not appear within 30 seconds.
-double MeasureOnce(const std::wstring& program, const std::wstring& folder, const wchar_t* title) {
+struct Measured {
+    double ms = -1;  // to the visible window; negative when it did not appear within 30 seconds
+    double workingSetMB = -1;
+};
+
+double Median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    const size_t n = values.size();
+    return n % 2 == 1 ? values[n / 2] : (values[n / 2 - 1] + values[n / 2]) / 2.0;
+}
+
+Measured MeasureOnce(const std::wstring& program, const std::wstring& folder, const wchar_t* title) {
     LARGE_INTEGER frequency;
     LARGE_INTEGER start;
     QueryPerformanceFrequency(&frequency);
     QueryPerformanceCounter(&start);
     const Process process(program, folder);
-    if (!process.Started()) return -1;
+    if (!process.Started()) return {};
     Wanted wanted{process.Id(), title};
     for (;;) {
         EnumWindows(Visit, reinterpret_cast<LPARAM>(&wanted));
         LARGE_INTEGER now;
         QueryPerformanceCounter(&now);
-        if (wanted.found) return Seconds(start, now, frequency) * 1000.0;
-        if (Seconds(start, now, frequency) > 30.0) return -1;
+        if (wanted.found) return {Seconds(start, now, frequency) * 1000.0, process.WorkingSetMB()};
+        if (Seconds(start, now, frequency) > 30.0) return {};
         Sleep(1);
     }
 }
@@ -96,20 +116,20 @@ int wmain(int argc, wchar_t** argv) {
     const std::wstring folder = slash == std::wstring::npos ? L"." : program.substr(0, slash);
 
     std::vector<double> times;
+    std::vector<double> workingSets;
     for (int i = 1; i <= runs; ++i) {
-        const double ms = MeasureOnce(program, folder, argv[3]);
-        if (ms < 0) {
+        const Measured run = MeasureOnce(program, folder, argv[3]);
+        if (run.ms < 0) {
             std::printf("run %d: no window\n", i);
             return 1;
         }
-        std::printf("run %d: %.1f ms\n", i, ms);
+        std::printf("run %d: %.1f ms, working set %.1f MB\n", i, run.ms, run.workingSetMB);
         std::fflush(stdout);
-        times.push_back(ms);
+        times.push_back(run.ms);
+        workingSets.push_back(run.workingSetMB);
         Sleep(300);
     }
-    std::sort(times.begin(), times.end());
-    const size_t n = times.size();
-    const double median = n % 2 == 1 ? times[n / 2] : (times[n / 2 - 1] + times[n / 2]) / 2.0;
-    std::printf("median: %.1f ms\n", median);
+    std::printf("median: %.1f ms\n", Median(times));
+    std::printf("working set: %.1f MB\n", Median(workingSets));
     return 0;
 }

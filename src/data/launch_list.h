@@ -51,6 +51,7 @@ bool IsFlashSideItem(const Application& app, std::int16_t group, const std::wstr
 // Adds a pair to a sorted name list and its path list, the path going to the
 // position of the first name exactly equal to the added one.
 void AddItemInStep(ui::ListBox& names, ui::ListBox& paths, const std::wstring& name, const std::wstring& path);
+void AddItemInStep(ui::ListBox& names, ui::ListBox& paths, const ui::SharedText& name, const ui::SharedText& path);
 // Removes the merged item at `position` and its entry on its side.
 void LaunchListRemoveItem(Application& app, std::int16_t group, std::int32_t position);
 // Empties a group: the merged lists and both sides.

@@ -27,6 +27,11 @@ void AddItemInStep(ui::ListBox& names, ui::ListBox& paths, const std::wstring& n
     paths.AddItem(path, names.FindExact(name));
 }
 
+void AddItemInStep(ui::ListBox& names, ui::ListBox& paths, const ui::SharedText& name, const ui::SharedText& path) {
+    names.AddItem(name);
+    paths.AddItem(path, names.FindExact(name.Text()));
+}
+
 void LaunchListRemoveItem(Application& app, std::int16_t group, std::int32_t position) {
     auto& names = *app.frmChoose.ComboListItemName.at(Slot(group));
     auto& paths = *app.frmChoose.ComboListItemPath.at(Slot(group));

@@ -1,3 +1,6 @@
+#include <exception>
+#include <vector>
+
 #include "common/application.h"
 #include "data/file_channel.h"
 #include "data/launch_list.h"
@@ -10,6 +13,55 @@ namespace {
 
 std::size_t Slot(std::int16_t group) { return static_cast<std::size_t>(group); }
 
+// The records of one list file as read, names and targets side by side, and
+// the failure that ended the reading early, if any. A load reads a whole file
+// first so that all its targets can be tested in one bulk call; the records
+// read before a failure are still added, and only then is the failure raised.
+// Each name and target becomes one shared text that the merged list and the
+// side list both hold.
+struct ReadRecords {
+    std::vector<ui::SharedText> names;
+    std::vector<std::wstring> targets;
+    std::exception_ptr failure;
+
+    void RaiseFailure() const {
+        if (failure) std::rethrow_exception(failure);
+    }
+};
+
+ReadRecords ReadComputerSide(RecordReader& reader, std::int16_t lastIndex) {
+    ReadRecords records;
+    try {
+        for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
+            ui::SharedText name(reader.ReadString());
+            std::wstring target = reader.ReadString();
+            records.names.push_back(std::move(name));
+            records.targets.push_back(std::move(target));
+        }
+    } catch (const std::exception&) {
+        records.failure = std::current_exception();
+    }
+    return records;
+}
+
+// A flash-side file ends early, without a word, at an empty name or target;
+// targets come back with the program's drive letter.
+ReadRecords ReadFlashSide(const Application& app, RecordReader& reader, std::int16_t lastIndex) {
+    ReadRecords records;
+    try {
+        for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
+            std::wstring name = reader.ReadString();
+            const std::wstring stored = reader.ReadString();
+            if (name.empty() || stored.empty()) break;
+            records.names.emplace_back(std::move(name));
+            records.targets.push_back(FromStoredFlashTarget(app, stored));
+        }
+    } catch (const std::exception&) {
+        records.failure = std::current_exception();
+    }
+    return records;
+}
+
 }  // namespace
 
 void ActionLaunchListGet(Application& app, std::int16_t group, std::int16_t lastIndex) {
@@ -19,19 +71,23 @@ void ActionLaunchListGet(Application& app, std::int16_t group, std::int16_t last
         RecordReader reader(ReadDataFile(app, file));
         auto& names = *app.frmChoose.ComboListItemName.at(Slot(group));
         auto& paths = *app.frmChoose.ComboListItemPath.at(Slot(group));
-        for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
-            const std::wstring name = reader.ReadString();
-            const std::wstring target = reader.ReadString();
-            if (group < 3 && !TargetPasses(app, group, target)) continue;
+        ReadRecords records = ReadComputerSide(reader, lastIndex);
+        const bool tested = group < 3;
+        const std::vector<bool> passes = tested ? TargetsPass(app, group, records.targets) : std::vector<bool>();
+        for (std::size_t r = 0; r < records.names.size(); ++r) {
+            if (tested && !passes[r]) continue;
+            const ui::SharedText& name = records.names[r];
+            const ui::SharedText target(std::move(records.targets[r]));
             // The file is written from a sorted list, so appending the target
             // keeps it beside its name.
             names.AddItem(name);
             paths.AddItem(target);
-            if (group < 3) {
+            if (tested) {
                 app.frmHid.ComboHDDItemName.at(Slot(group))->AddItem(name);
                 app.frmHid.ComboHDDItemPath.at(Slot(group))->AddItem(target);
             }
         }
+        records.RaiseFailure();
     } catch (const std::exception&) {
         ReportBug(app, L"ActionLaunchListGet");
     }
@@ -45,12 +101,12 @@ void ActionLaunchListGetUSB(Application& app, std::int16_t group, std::int16_t l
         const bool mergedHeldItems = names.ListCount() > 0;
         if (!app.sys.FileExists(file)) return;
         RecordReader reader(ReadDataFile(app, file));
-        for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
-            const std::wstring name = reader.ReadString();
-            const std::wstring stored = reader.ReadString();
-            if (name.empty() || stored.empty()) break;
-            const std::wstring target = FromStoredFlashTarget(app, stored);
-            if (!TargetPasses(app, group, target)) continue;
+        ReadRecords records = ReadFlashSide(app, reader, lastIndex);
+        const std::vector<bool> passes = TargetsPass(app, group, records.targets);
+        for (std::size_t r = 0; r < records.names.size(); ++r) {
+            if (!passes[r]) continue;
+            const ui::SharedText& name = records.names[r];
+            const ui::SharedText target(std::move(records.targets[r]));
             app.frmHid.ComboUSBItemName.at(Slot(group))->AddItem(name);
             app.frmHid.ComboUSBItemPath.at(Slot(group))->AddItem(target);
             if (mergedHeldItems) {
@@ -60,6 +116,7 @@ void ActionLaunchListGetUSB(Application& app, std::int16_t group, std::int16_t l
                 paths.AddItem(target);
             }
         }
+        records.RaiseFailure();
     } catch (const std::exception&) {
         ReportBug(app, L"ActionLaunchListGetUSB");
     }

@@ -24,8 +24,8 @@ const std::wstring& FlashSideFile(const Application& app, std::int16_t group) {
     }
 }
 
-bool TargetPasses(Application& app, std::int16_t group, const std::wstring& target) {
-    return group == 1 ? app.sys.FolderExists(target) : app.sys.FileExists(target);
+std::vector<bool> TargetsPass(Application& app, std::int16_t group, const std::vector<std::wstring>& targets) {
+    return group == 1 ? app.sys.FoldersExist(targets) : app.sys.FilesExist(targets);
 }
 
 std::wstring ToStoredFlashTarget(const Application& app, const std::wstring& target) {

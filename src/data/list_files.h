@@ -4,6 +4,7 @@
 // targets, and the program's 16-bit loop index.
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "common/failure.h"
 
@@ -16,8 +17,9 @@ const std::wstring& ComputerSideFile(const Application& app, std::int16_t group)
 // The flash-side file of groups 0 to 2; SubscriptOutOfRange otherwise.
 const std::wstring& FlashSideFile(const Application& app, std::int16_t group);
 
-// FolderExists for Folder, FileExists for File and Program.
-bool TargetPasses(Application& app, std::int16_t group, const std::wstring& target);
+// For each target, in order: FolderExists for Folder, FileExists for File and
+// Program, asked of the system in one bulk call.
+std::vector<bool> TargetsPass(Application& app, std::int16_t group, const std::vector<std::wstring>& targets);
 
 // E:\a.exe becomes #:\a.exe when E is the program's drive letter, exactly.
 std::wstring ToStoredFlashTarget(const Application& app, const std::wstring& target);

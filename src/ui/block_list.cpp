@@ -26,17 +26,19 @@ void BlockList::ShiftStarts(std::size_t fromBlock, std::int32_t delta) {
 const std::wstring& BlockList::At(std::int32_t index) const {
     std::int32_t offset = 0;
     const std::size_t block = BlockOf(index, offset);
-    return blocks_[block][static_cast<std::size_t>(offset)];
+    return blocks_[block][static_cast<std::size_t>(offset)].Text();
 }
 
 void BlockList::Set(std::int32_t index, const std::wstring& item) {
     std::int32_t offset = 0;
     const std::size_t block = BlockOf(index, offset);
-    blocks_[block][static_cast<std::size_t>(offset)] = item;
+    blocks_[block][static_cast<std::size_t>(offset)] = SharedText(item);
     Changed();
 }
 
-void BlockList::Insert(std::int32_t index, const std::wstring& item) {
+void BlockList::Insert(std::int32_t index, const std::wstring& item) { Insert(index, SharedText(item)); }
+
+void BlockList::Insert(std::int32_t index, const SharedText& item) {
     Changed();
     if (blocks_.empty()) {
         blocks_.emplace_back();
@@ -63,7 +65,7 @@ void BlockList::Insert(std::int32_t index, const std::wstring& item) {
     ShiftStarts(block + 1, 1);
     if (entries.size() > MaxBlock) {
         const std::size_t half = entries.size() / 2;
-        std::vector<std::wstring> tail(std::make_move_iterator(entries.begin() + static_cast<std::ptrdiff_t>(half)),
+        std::vector<SharedText> tail(std::make_move_iterator(entries.begin() + static_cast<std::ptrdiff_t>(half)),
                                        std::make_move_iterator(entries.end()));
         entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(half), entries.end());
         const std::int32_t tailStart = starts_[block] + static_cast<std::int32_t>(half);
@@ -97,7 +99,8 @@ const std::vector<std::wstring>& BlockList::Flat() const {
     if (!flatValid_) {
         flat_.clear();
         flat_.reserve(static_cast<std::size_t>(size_));
-        for (const auto& entries : blocks_) flat_.insert(flat_.end(), entries.begin(), entries.end());
+        for (const auto& entries : blocks_)
+            for (const SharedText& entry : entries) flat_.push_back(entry.Text());
         flatValid_ = true;
     }
     return flat_;

@@ -2,9 +2,12 @@
 // An indexed sequence of strings kept in blocks of bounded size, so that an
 // insertion or removal in the middle of a long list moves only one block's
 // worth of entries. Reading by position finds the block by binary search.
+// Entries are shared texts, so a string held by several lists is stored once.
 #include <cstdint>
 #include <string>
 #include <vector>
+
+#include "ui/shared_text.h"
 
 namespace qs::ui {
 
@@ -15,6 +18,7 @@ public:
     const std::wstring& At(std::int32_t index) const;
     void Set(std::int32_t index, const std::wstring& item);
     void Insert(std::int32_t index, const std::wstring& item);
+    void Insert(std::int32_t index, const SharedText& item);
     void Erase(std::int32_t index);
     void Clear();
 
@@ -30,7 +34,7 @@ private:
         flatValid_ = false;
     }
 
-    std::vector<std::vector<std::wstring>> blocks_;
+    std::vector<std::vector<SharedText>> blocks_;
     std::vector<std::int32_t> starts_;  // position of each block's first entry
     std::int32_t size_ = 0;
     mutable std::vector<std::wstring> flat_;

@@ -62,14 +62,18 @@ void ListBox::Inserted(std::int32_t index) {
     if (ControlPeer* peer = Peer()) peer->ItemInserted(index);
 }
 
-std::int32_t ListBox::AddItem(const std::wstring& item) {
-    const std::int32_t index = sorted_ ? SortedPlace(item) : ListCount();
+std::int32_t ListBox::AddItem(const std::wstring& item) { return AddItem(SharedText(item)); }
+
+std::int32_t ListBox::AddItem(const std::wstring& item, std::int32_t index) { return AddItem(SharedText(item), index); }
+
+std::int32_t ListBox::AddItem(const SharedText& item) {
+    const std::int32_t index = sorted_ ? SortedPlace(item.Text()) : ListCount();
     items_.Insert(index, item);
     Inserted(index);
     return index;
 }
 
-std::int32_t ListBox::AddItem(const std::wstring& item, std::int32_t index) {
+std::int32_t ListBox::AddItem(const SharedText& item, std::int32_t index) {
     if (index < 0 || index > ListCount()) throw SubscriptOutOfRange();
     items_.Insert(index, item);
     Inserted(index);

@@ -22,6 +22,10 @@ public:
     // list finds the place; an unsorted one appends.
     std::int32_t AddItem(const std::wstring& item);
     std::int32_t AddItem(const std::wstring& item, std::int32_t index);
+    // The same with a text that other lists may hold too: the list keeps a
+    // share of it, not a copy.
+    std::int32_t AddItem(const SharedText& item);
+    std::int32_t AddItem(const SharedText& item, std::int32_t index);
     void RemoveItem(std::int32_t index);
     void Clear();
 

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "common/failure.h"
 #include "platform/system.h"
@@ -31,6 +32,16 @@ public:
     DriveInfo GetDrive(const std::wstring& name) override { return {name.substr(0, 1), name, DriveType::Fixed}; }
     bool FileExists(const std::wstring& path) override { return files.count(path) > 0 || exists(path); }
     bool FolderExists(const std::wstring& path) override { return exists(path); }
+    std::vector<bool> FilesExist(const std::vector<std::wstring>& paths) override {
+        std::vector<bool> answers;
+        for (const std::wstring& path : paths) answers.push_back(FileExists(path));
+        return answers;
+    }
+    std::vector<bool> FoldersExist(const std::vector<std::wstring>& paths) override {
+        std::vector<bool> answers;
+        for (const std::wstring& path : paths) answers.push_back(FolderExists(path));
+        return answers;
+    }
     void CreateFolder(const std::wstring&) override {}
     std::int32_t GetAttributes(const std::wstring&) override { return 32; }
     void DeleteFile(const std::wstring& path) override { files.erase(path); }

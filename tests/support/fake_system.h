@@ -71,6 +71,12 @@ public:
     DriveInfo GetDrive(const std::wstring& driveName) override;
     bool FileExists(const std::wstring& path) override;
     bool FolderExists(const std::wstring& path) override;
+    // Each parent folder is listed once; names compare as the host file
+    // system compares them, as the single tests do.
+    std::vector<bool> FilesExist(const std::vector<std::wstring>& paths) override;
+    std::vector<bool> FoldersExist(const std::vector<std::wstring>& paths) override;
+    // How many folder listings the bulk tests have made.
+    int folderListings = 0;
     void CreateFolder(const std::wstring& path) override;
     std::int32_t GetAttributes(const std::wstring& path) override;
     void DeleteFile(const std::wstring& path) override;
@@ -98,6 +104,10 @@ public:
     std::vector<std::wstring> readOnlyPrefixes;
 
 private:
+    enum class EntryKind { File, Folder };
+    std::vector<bool> ExistInBulk(const std::vector<std::wstring>& paths, EntryKind kind);
+    bool ExistsSingly(const std::wstring& path, EntryKind kind);
+
     std::filesystem::path root_;
 };
 
