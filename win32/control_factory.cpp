@@ -1,4 +1,5 @@
 // One peer class per control kind; no window needs code of its own.
+#include "browse_kinds.h"
 #include "control_kinds.h"
 #include "picture_box_window.h"
 #include "text_box_window.h"
@@ -21,6 +22,16 @@ std::unique_ptr<ControlWindow> MakeControlWindow(FormWindow& form, ui::Control& 
             return std::make_unique<PictureBoxWindow>(form, static_cast<ui::PictureBox&>(control), id);
         case ui::ControlKind::CheckBox:
             return std::make_unique<CheckBoxWindow>(form, static_cast<ui::CheckBox&>(control), id);
+        case ui::ControlKind::OptionButton:
+            return std::make_unique<OptionButtonWindow>(form, static_cast<ui::OptionButton&>(control), id);
+        case ui::ControlKind::Frame:
+            return std::make_unique<FrameWindow>(form, static_cast<ui::Frame&>(control), id);
+        case ui::ControlKind::DriveListBox:
+            return std::make_unique<DriveBoxWindow>(form, static_cast<ui::DriveListBox&>(control), id);
+        case ui::ControlKind::DirListBox:
+            return std::make_unique<DirBoxWindow>(form, static_cast<ui::DirListBox&>(control), id);
+        case ui::ControlKind::FileListBox:
+            return std::make_unique<ListBoxWindow>(form, static_cast<ui::ListBox&>(control), id);
     }
     return std::make_unique<PlainWindow>(form, control, id);
 }

@@ -31,7 +31,7 @@ public:
     ButtonWindow(FormWindow& form, ui::CommandButton& button, int id) : ControlWindow(form, button, id), button_(button) {}
     void Create() override;
     void OnCommand(WORD code) override;
-    bool TakesFocus() const override { return Model().Visible() && Model().Enabled(); }
+    bool TakesFocus() const override { return Model().Shown() && Model().Enabled(); }
 
 private:
     ui::CommandButton& button_;
@@ -44,7 +44,7 @@ public:
     CheckBoxWindow(FormWindow& form, ui::CheckBox& box, int id) : ControlWindow(form, box, id), box_(box) {}
     void Create() override;
     void OnCommand(WORD code) override;
-    bool TakesFocus() const override { return Model().Visible() && Model().Enabled(); }
+    bool TakesFocus() const override { return Model().Shown() && Model().Enabled(); }
 
 protected:
     void OnChanged(ui::Property what) override;
@@ -80,7 +80,7 @@ public:
     ListBoxWindow(FormWindow& form, ui::ListBox& list, int id) : ControlWindow(form, list, id), list_(list) {}
     void Create() override;
     void OnCommand(WORD code) override;
-    bool TakesFocus() const override { return Handle() != nullptr && Model().Visible(); }
+    bool TakesFocus() const override { return Handle() != nullptr && Model().Shown(); }
     COLORREF DefaultTextColor() const override { return ::GetSysColor(COLOR_WINDOWTEXT); }
     HBRUSH DefaultBackground(HDC) override { return nullptr; }
     void ItemInserted(std::int32_t index) override;
@@ -90,6 +90,8 @@ public:
 
 protected:
     void OnChanged(ui::Property what) override;
+    // The text the window shows for an entry.
+    virtual std::wstring ItemText(std::int32_t index) const { return list_.List(index); }
 
 private:
     void WriteItems();

@@ -25,7 +25,7 @@ void ControlWindow::Detach() {
 
 void ControlWindow::CreateChild(const wchar_t* windowClass, DWORD style, DWORD exStyle) {
     style |= WS_CHILD | WS_CLIPSIBLINGS;
-    if (control_.Visible()) style |= WS_VISIBLE;
+    if (control_.Shown()) style |= WS_VISIBLE;
     if (!control_.Enabled()) style |= WS_DISABLED;
     const RECT r = PixelRect();
     window_ = ::CreateWindowExW(exStyle, windowClass, L"", style, r.left, r.top, r.right - r.left, r.bottom - r.top,
@@ -120,7 +120,7 @@ void ControlWindow::Changed(ui::Property what) {
             break;
         case ui::Property::Visible:
             if (window_ != nullptr) {
-                ::ShowWindow(window_, control_.Visible() ? SW_SHOWNA : SW_HIDE);
+                ::ShowWindow(window_, control_.Shown() ? SW_SHOWNA : SW_HIDE);
                 form_.FieldsMoved();
             }
             break;

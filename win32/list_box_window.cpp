@@ -3,7 +3,7 @@
 namespace qs::win {
 
 void ListBoxWindow::Create() {
-    if (!list_.Visible() || Handle() != nullptr) return;
+    if (!list_.Shown() || Handle() != nullptr) return;
     CreateChild(L"LISTBOX", WS_VSCROLL | WS_TABSTOP | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT, WS_EX_CLIENTEDGE);
     if (Handle() == nullptr) return;
     WriteItems();
@@ -12,7 +12,7 @@ void ListBoxWindow::Create() {
 void ListBoxWindow::OnChanged(ui::Property what) {
     switch (what) {
         case ui::Property::Visible:
-            if (list_.Visible() && Handle() == nullptr) Create();
+            if (list_.Shown() && Handle() == nullptr) Create();
             break;
         case ui::Property::ListIndex:
             if (Handle() != nullptr) WriteIndex();
@@ -25,7 +25,7 @@ void ListBoxWindow::OnChanged(ui::Property what) {
 void ListBoxWindow::ItemInserted(std::int32_t index) {
     if (Detached() || Handle() == nullptr) return;
     ::SendMessageW(Handle(), LB_INSERTSTRING, static_cast<WPARAM>(index),
-                   reinterpret_cast<LPARAM>(list_.List(index).c_str()));
+                   reinterpret_cast<LPARAM>(ItemText(index).c_str()));
 }
 
 void ListBoxWindow::ItemRemoved(std::int32_t index) {
@@ -51,7 +51,7 @@ void ListBoxWindow::WriteItems() {
     const std::int32_t count = list_.ListCount();
     ::SendMessageW(Handle(), LB_INITSTORAGE, static_cast<WPARAM>(count), 0);
     for (std::int32_t i = 0; i < count; ++i) {
-        ::SendMessageW(Handle(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(list_.List(i).c_str()));
+        ::SendMessageW(Handle(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(ItemText(i).c_str()));
     }
     WriteIndex();
     ::SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);

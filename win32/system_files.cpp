@@ -5,6 +5,7 @@
 #include "ansi_text.h"
 #include "common/failure.h"
 #include "common/text_case.h"
+#include "drive_type.h"
 #include "system_error.h"
 #include "win32_system.h"
 
@@ -13,17 +14,6 @@ namespace qs::win {
 namespace {
 
 bool IsLetter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'); }
-
-DriveType DriveTypeFromSystem(UINT type) {
-    switch (type) {
-        case DRIVE_REMOVABLE: return DriveType::Removable;
-        case DRIVE_FIXED: return DriveType::Fixed;
-        case DRIVE_REMOTE: return DriveType::Network;
-        case DRIVE_CDROM: return DriveType::CDRom;
-        case DRIVE_RAMDISK: return DriveType::RamDisk;
-        default: return DriveType::Unknown;
-    }
-}
 
 // The attribute bits the file-system object reports.
 constexpr DWORD kReportedAttributes = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |

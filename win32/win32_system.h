@@ -46,6 +46,9 @@ public:
 
     [[noreturn]] void EndProgram() override;
 
+    std::vector<DriveEntry> ListDrives() override;
+    FolderListing ListFolder(const std::wstring& folder) override;
+
 private:
     // The single-instance mutex, held from the first check to the end.
     KernelHandle runningMutex_;

@@ -6,10 +6,9 @@
 #include <string>
 #include <vector>
 
-namespace qs {
+#include "platform/file_browsing.h"
 
-// Drive types as the file system reports them.
-enum class DriveType : std::int16_t { Unknown = 0, Removable = 1, Fixed = 2, Network = 3, CDRom = 4, RamDisk = 5 };
+namespace qs {
 
 struct DriveInfo {
     std::wstring letter;  // "C", as the system spells it
@@ -40,10 +39,8 @@ struct ShortcutDetails {
     std::wstring workingDirectory;
 };
 
-class System {
+class System : public FileBrowsing {
 public:
-    virtual ~System() = default;
-
     // Shell. ShellOpen opens a target by its association with the verb "open"
     // and shows the result normally; 33 or more is success. ShellRun starts a
     // whole command line with normal focus and throws SystemCallFailed when

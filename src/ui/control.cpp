@@ -21,6 +21,15 @@ void Control::SetVisible(bool visible) {
     if (visible_ == visible) return;
     visible_ = visible;
     Notify(Property::Visible);
+    NotifyContents();
+}
+
+void Control::NotifyContents() {
+    for (Control* c : owner_.Controls()) {
+        if (c->container_ != this) continue;
+        c->Notify(Property::Visible);
+        c->NotifyContents();
+    }
 }
 
 void Control::SetEnabled(bool enabled) {

@@ -30,7 +30,20 @@ enum class Property {
     Colors,
 };
 
-enum class ControlKind { TextBox, Label, CommandButton, Timer, ListBox, PictureBox, CheckBox };
+enum class ControlKind {
+    TextBox,
+    Label,
+    CommandButton,
+    Timer,
+    ListBox,
+    PictureBox,
+    CheckBox,
+    OptionButton,
+    Frame,
+    DriveListBox,
+    DirListBox,
+    FileListBox,
+};
 
 class ControlPeer {
 public:
@@ -64,6 +77,11 @@ public:
 
     bool Visible() const { return visible_; }
     void SetVisible(bool visible);
+    // The control that holds this one (a frame), or none; a control is shown
+    // on screen when it and every container around it are visible.
+    Control* Container() const { return container_; }
+    void SetContainer(Control* container) { container_ = container; }
+    bool Shown() const { return visible_ && (container_ == nullptr || container_->Shown()); }
     bool Enabled() const { return enabled_; }
     void SetEnabled(bool enabled);
     const std::wstring& ToolTipText() const { return toolTip_; }
@@ -96,6 +114,9 @@ protected:
     }
 
 private:
+    // Tells the controls this one holds that their Shown may have changed.
+    void NotifyContents();
+
     Form& owner_;
     ControlKind kind_;
     std::wstring name_;
@@ -111,6 +132,7 @@ private:
     Color foreColor_ = DefaultColor;
     std::int16_t fontSize_ = 0;
     bool fontBold_ = false;
+    Control* container_ = nullptr;
     ControlPeer* peer_ = nullptr;
 };
 

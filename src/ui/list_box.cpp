@@ -8,6 +8,9 @@ namespace qs::ui {
 ListBox::ListBox(Form& owner, std::wstring name, bool sorted)
     : Control(owner, ControlKind::ListBox, std::move(name)), sorted_(sorted) {}
 
+ListBox::ListBox(Form& owner, ControlKind kind, std::wstring name, bool sorted)
+    : Control(owner, kind, std::move(name)), sorted_(sorted) {}
+
 std::int32_t ListBox::SortedPlace(const std::wstring& item) const {
     // Items mostly come in sorted order, from files written sorted.
     const std::int32_t count = ListCount();

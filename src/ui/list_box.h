@@ -52,6 +52,10 @@ public:
     // The user picked an entry in the real control.
     void UserSelected(std::int32_t index);
 
+protected:
+    // For the kinds built on a list (the drive, folder and file boxes).
+    ListBox(Form& owner, ControlKind kind, std::wstring name, bool sorted);
+
 private:
     std::int32_t SortedPlace(const std::wstring& item) const;
     void Inserted(std::int32_t index);

@@ -1,31 +1,138 @@
 #include "windows/frm_browse.h"
 
 #include "common/application.h"
-#include "data/report_bug.h"
-#include "windows/pane_placing.h"
 
 namespace qs {
 
-FrmBrowse::FrmBrowse(Application& app) : ui::Form(L"frmBrowse", ui::FormStyle::Dialog), app_(app) {
+FrmBrowse::FrmBrowse(Application& app)
+    : ui::Form(L"frmBrowse", ui::FormStyle::Dialog),
+      PictureBrowse(*this, L"PictureBrowse"),
+      PictureAddCancel(*this, L"PictureAddCancel"),
+      LabelAddCancel(*this, L"LabelAddCancel", L"Close"),
+      FrameHideWindow(*this, L"FrameHideWindow", L"", false),
+      PictureNo(*this, L"PictureNo"),
+      FrameBrowseOption(*this, L"FrameBrowseOption", L"Select Item To Add :"),
+      OptionBrowse(*this, L"OptionBrowse", 6),
+      DriveWork(*this, L"DriveWork", app.sys),
+      FrameFindPath(*this, L"FrameFindPath", L"Add Running Program :"),
+      PictureFindPath(*this, L"PictureFindPath"),
+      LabelFindPath(*this, L"LabelFindPath", L"Find Program Path"),
+      FrameAddToList(*this, L"FrameAddToList", L"Type Launch Name Here :"),
+      TextAddName(*this, L"TextAddName"),
+      PictureAddOK(*this, L"PictureAddOK"),
+      FrameAddPath(*this, L"FrameAddPath", L"Program Path:"),
+      TextAddPath(*this, L"TextAddPath"),
+      LabelAddPath(*this, L"LabelAddPath", L"Do Not Type - Select Program"),
+      DirWork(*this, L"DirWork", app.sys),
+      FileWork(*this, L"FileWork", app.sys),
+      FrameSelect(*this, L"FrameSelect"),
+      PictureSelectOK(*this, L"PictureSelectOK"),
+      LabelOpen(*this, L"LabelOpen", L"Open"),
+      LabelAddSelectA(*this, L"LabelAddSelectA", L"Single click to select"),
+      LabelBrowseBack(*this, L"LabelBrowseBack", L"Add Item :"),
+      app_(app) {
     Move(0, 0, BrowseWidth, BrowseHeight);
+    Layout();
+    WireEvents();
 }
 
-void ActionSetBrowse(Application& app, std::int16_t& mode) {
-    try {
-        FrmBrowse& pane = app.frmBrowse;
-        app.SavedMainTop = -1;
-        app.frmChoose.Hide();
-        pane.SetCaption(mode == 0 ? L"Add Item" : L"Open");
-        PlacePaneByTheBar(app, pane);
-        if (mode != -1) {
-            pane.Show();
-        } else {
-            pane.Hide();
-        }
-        if (app.frmMain.TextMain.Visible()) app.frmMain.TextMain.SetFocus();
-    } catch (const std::exception&) {
-        ReportBug(app, L"ActionSetBrowse");
+void FrmBrowse::Layout() {
+    // The background picture only measures the face: the form's own picture
+    // paints it.
+    PictureBrowse.SetVisible(false);
+    LabelBrowseBack.Move(240, 180, 3300, 315);
+    LabelBrowseBack.SetFont(10, true);
+    LabelAddCancel.Move(3930, 225, 600, 255);
+    PictureAddCancel.Move(4590, 165, 330, 330);
+    PictureAddCancel.SetToolTipText(L"Close");
+    FrameHideWindow.Move(120, 540, 4920, 90);
+    // Takes the focus away from the boxes; it has no size and no look.
+    PictureNo.Move(0, 0, 0, 0);
+
+    // The options (Add Item) and the Open button (Open) share one place.
+    FrameBrowseOption.Move(240, 660, 4800, 1020);
+    const wchar_t* captions[] = {L"Program", L"File", L"Folder", L"Email", L"Web URL", L"Pic"};
+    for (std::int16_t i = 0; i < 6; ++i) {
+        ui::OptionButton& option = OptionBrowse(i);
+        option.SetCaption(captions[i]);
+        FrameBrowseOption.Place(option, 180 + (i % 3) * 1560, 330 + (i / 3) * 345, 1440, 285);
     }
+    OptionBrowse(5).SetVisible(false);
+    FrameSelect.Move(240, 660, 4800, 1020);
+    FrameSelect.Place(LabelAddSelectA, 180, 420, 3000, 255);
+    FrameSelect.Place(PictureSelectOK, 3600, 300, 420, 420);
+    FrameSelect.Place(LabelOpen, 4110, 390, 600, 255);
+
+    DriveWork.Move(240, 1800, 4800, 315);
+    DriveWork.SetToolTipText(L"Select Drive");
+    DirWork.Move(240, 2235, 4800, 1560);
+    DirWork.SetToolTipText(L"Double Click To Select");
+    FileWork.Move(240, 3915, 4800, 1560);
+    FileWork.SetToolTipText(L"Single click to select");
+    FileWork.SetPattern(L"*.exe");
+
+    FrameAddPath.Move(240, 5640, 4800, 840);
+    FrameAddPath.Place(TextAddPath, 180, 270, 4440, 315);
+    FrameAddPath.Place(LabelAddPath, 180, 615, 4440, 225);
+    FrameAddToList.Move(240, 6600, 4800, 660);
+    FrameAddToList.Place(TextAddName, 180, 255, 3900, 315);
+    FrameAddToList.Place(PictureAddOK, 4230, 195, 390, 390);
+    PictureAddOK.SetToolTipText(L"OK");
+    // No item yet: no name can be typed and nothing confirmed.
+    TextAddName.SetEnabled(false);
+    PictureAddOK.SetEnabled(false);
+    PictureSelectOK.SetEnabled(false);
+    FrameFindPath.Move(240, 7380, 4800, 600);
+    FrameFindPath.Place(PictureFindPath, 180, 195, 330, 330);
+    FrameFindPath.Place(LabelFindPath, 600, 240, 3000, 255);
+}
+
+void FrmBrowse::WireEvents() {
+    LoadEvent = [this] { FormLoad(); };
+    OptionBrowse.OnEach(&ui::OptionButton::Click, [this](std::int16_t i) { OptionBrowseClick(i); });
+    DriveWork.Change = [this] { DriveWorkChange(); };
+    DirWork.Change = [this] { DirWorkChange(); };
+    FileWork.Click = [this] { FileWorkClick(); };
+    TextAddName.Change = [this] { TextAddNameChange(); };
+    TextAddPath.Change = [this] { TextAddPathChange(); };
+    TextAddName.KeyPress = [this](std::int16_t& key) { TextAddKeyPress(key); };
+    TextAddPath.KeyPress = [this](std::int16_t& key) { TextAddKeyPress(key); };
+    PictureAddOK.Click = [this] { PictureAddOKClick(); };
+    PictureAddOK.MouseDown = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
+        PictureAddOK.SetPicture(app_.theme.ImageZeroOver);
+    };
+    PictureAddOK.MouseUp = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
+        SetOKButton(PictureAddOK, PictureAddOK.Enabled());
+    };
+    PictureSelectOK.Click = [this] { PictureSelectOKClick(); };
+    PictureSelectOK.MouseDown = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
+        PictureSelectOK.SetPicture(app_.theme.ImageZeroOver);
+    };
+    PictureSelectOK.MouseUp = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
+        SetOKButton(PictureSelectOK, PictureSelectOK.Enabled());
+    };
+    PictureAddCancel.Click = [this] { PictureAddCancelClick(); };
+    PictureAddCancel.MouseDown = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
+        PictureAddCancelMouse();
+    };
+    PictureAddCancel.MouseUp = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
+        PictureAddCancelMouse();
+    };
+    PictureAddCancel.KeyPress = [this](std::int16_t& key) {
+        if (key == 13) PictureAddCancelClick();
+    };
+    LabelAddCancel.Click = [this] { PictureAddCancelClick(); };
+    LabelAddCancel.MouseMove = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
+        LabelAddCancelMouseMove();
+    };
+    FrameHideWindow.MouseMove = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
+        FrameHideWindowMouseMove();
+    };
+}
+
+void FrmBrowse::SetOKButton(ui::PictureBox& button, bool enabled) {
+    button.SetEnabled(enabled);
+    button.SetPicture(enabled ? app_.theme.ImageZeroSet[2] : app_.theme.ImageZeroBlank);
 }
 
 }  // namespace qs

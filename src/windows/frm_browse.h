@@ -1,10 +1,23 @@
 #pragma once
 // The Add Item and Open pane: one window with two faces, opened from the
-// bar's PictureMenu(0) and PictureMenu(1).
+// bar's PictureMenu(0) and PictureMenu(1). Its handlers live in
+// browse_set.cpp (opening, the options, the two text boxes, close),
+// browse_folders.cpp (the drive, folder and file boxes, the load) and
+// browse_add.cpp (the add and Open clicks and the item tests).
 #include <cstdint>
 #include <string>
 
+#include "platform/system.h"
+#include "ui/control_array.h"
+#include "ui/dir_list_box.h"
+#include "ui/drive_list_box.h"
+#include "ui/file_list_box.h"
 #include "ui/form.h"
+#include "ui/frame.h"
+#include "ui/label.h"
+#include "ui/option_button.h"
+#include "ui/picture_box.h"
+#include "ui/text_box.h"
 
 namespace qs {
 
@@ -17,12 +30,80 @@ class FrmBrowse : public ui::Form {
 public:
     explicit FrmBrowse(Application& app);
 
+    // The controls, in the order of the form.
+    ui::PictureBox PictureBrowse;
+    ui::PictureBox PictureAddCancel;
+    ui::Label LabelAddCancel;
+    ui::Frame FrameHideWindow;
+    ui::PictureBox PictureNo;
+    ui::Frame FrameBrowseOption;
+    ui::ControlArray<ui::OptionButton> OptionBrowse;
+    ui::DriveListBox DriveWork;
+    ui::Frame FrameFindPath;
+    ui::PictureBox PictureFindPath;
+    ui::Label LabelFindPath;
+    ui::Frame FrameAddToList;
+    ui::TextBox TextAddName;
+    ui::PictureBox PictureAddOK;
+    ui::Frame FrameAddPath;
+    ui::TextBox TextAddPath;
+    ui::Label LabelAddPath;
+    ui::DirListBox DirWork;
+    ui::FileListBox FileWork;
+    ui::Frame FrameSelect;
+    ui::PictureBox PictureSelectOK;
+    ui::Label LabelOpen;
+    ui::Label LabelAddSelectA;
+    ui::Label LabelBrowseBack;
+
     // The option button last clicked: 0 Program, 1 File, 2 Folder, 3 Email,
     // 4 Web URL, 5 Pic.
     std::int16_t BrowseOption = 0;
+    // The last folder accepted in DirWork, and the same with a backslash.
+    std::wstring CurrentFolder;
+    std::wstring CurrentFolderSlash;
+    // The drive last taken from DriveWork; its type is 0 until known.
+    std::int16_t SelectedDriveType = 0;
+    std::int16_t SelectedFileIndex = -1;
+    DriveInfo SelectedDrive;
+    std::wstring SelectedDriveLetter;
+
+    // Item tests; "" or "MessageXXUnsafeItem".
+    std::wstring ActAllowAttr(std::int16_t attributes) const;
+    std::wstring ActAllowExt(const std::wstring& extension) const;
+    std::wstring ActAllowAttrExt(const std::wstring& extension, std::int16_t attributes) const;
+    // The DriveType of the drive of a path's first three characters; 0 when
+    // the drive cannot be taken.
+    std::int16_t ActDeclareDriveType(const std::wstring& firstThree) const;
+
+    // Event handlers.
+    void FormLoad();
+    void OptionBrowseClick(std::int16_t index);
+    void DriveWorkChange();
+    void DirWorkChange();
+    void FileWorkClick();
+    void TextAddNameChange();
+    void TextAddPathChange();
+    void TextAddKeyPress(std::int16_t& key);
+    void PictureAddOKClick();
+    void PictureSelectOKClick();
+    void PictureAddCancelClick();
+    void PictureAddCancelMouse();
+    void LabelAddCancelMouseMove();
+    void FrameHideWindowMouseMove();
+
+    // Shows the enabled or the disabled look of an OK button.
+    void SetOKButton(ui::PictureBox& button, bool enabled);
 
 private:
+    void Layout();
+    void WireEvents();
+    // The steps of the add click, each "" or the key that ends the add.
+    std::wstring CheckPlace(const std::wstring& path, std::int16_t& driveType, std::wstring& extension);
+
     Application& app_;
+    // True from the load until the first bounce off the system folder.
+    bool SystemMessagePending = false;
 };
 
 // Fills and shows the pane in mode 0 (Add Item) or 1 (Open), or hides it

@@ -63,6 +63,9 @@ public:
     void StartScreenSaver() override {}
     void CreateShortcut(const ShortcutDetails&) override {}
     [[noreturn]] void EndProgram() override { __builtin_trap(); }
+    // The readers never browse the disk.
+    std::vector<DriveEntry> ListDrives() override { throw SystemCallFailed("not available"); }
+    FolderListing ListFolder(const std::wstring&) override { throw SystemCallFailed("not available"); }
 };
 
 // Input bytes as the 8-bit code page gives them.

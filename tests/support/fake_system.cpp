@@ -1,5 +1,6 @@
 #include "fake_system.h"
 
+#include <algorithm>
 #include <fstream>
 #include <random>
 #include <sstream>
@@ -152,6 +153,37 @@ DriveInfo FakeSystem::GetDrive(const std::wstring& driveName) {
     const auto at = driveTypes.find(letter);
     if (at == driveTypes.end()) throw SystemCallFailed("no such drive");
     return {std::wstring(1, letter), std::wstring(1, letter) + L":", at->second};
+}
+
+std::vector<DriveEntry> FakeSystem::ListDrives() {
+    std::vector<DriveEntry> drives;
+    for (const auto& [letter, type] : driveTypes) {
+        DriveEntry drive;
+        drive.letter = letter;
+        drive.type = type;
+        drive.ready = std::find(notReady.begin(), notReady.end(), letter) == notReady.end();
+        if (drive.ready && volumeNames.count(letter) > 0) drive.volumeName = volumeNames.at(letter);
+        drives.push_back(drive);
+    }
+    return drives;
+}
+
+FolderListing FakeSystem::ListFolder(const std::wstring& folder) {
+    if (folder.empty() || std::find(notReady.begin(), notReady.end(), UpperChar(folder[0])) != notReady.end()) {
+        throw SystemCallFailed("drive not ready");
+    }
+    const fs::path host = HostPath(folder);
+    if (!fs::is_directory(host)) throw SystemCallFailed("no such folder");
+    const std::wstring slash = folder.back() == L'\\' ? folder : folder + L"\\";
+    FolderListing listing;
+    for (const auto& entry : fs::directory_iterator(host)) {
+        FolderEntry item;
+        item.name = FromLatin1(entry.path().filename().string());
+        const auto at = attributes.find(LCase(slash + item.name));
+        item.attributes = at != attributes.end() ? at->second : (entry.is_directory() ? 16 : 32);
+        (entry.is_directory() ? listing.folders : listing.files).push_back(item);
+    }
+    return listing;
 }
 
 bool FakeSystem::FileExists(const std::wstring& path) {

@@ -97,9 +97,15 @@ public:
     void StartScreenSaver() override { ++screenSaverStarts; }
     void CreateShortcut(const ShortcutDetails& shortcut) override;
     [[noreturn]] void EndProgram() override { throw ProgramEnded{}; }
+    std::vector<DriveEntry> ListDrives() override;
+    FolderListing ListFolder(const std::wstring& folder) override;
 
     std::map<wchar_t, DriveType> driveTypes;
     std::map<std::wstring, std::int32_t> attributes;
+    // Volume names by upper-case drive letter, and the drives that hold no
+    // medium (their folders cannot be read).
+    std::map<wchar_t, std::wstring> volumeNames;
+    std::vector<wchar_t> notReady;
     // Paths (Windows form, any case) whose writes fail, as on read-only media.
     std::vector<std::wstring> readOnlyPrefixes;
 

@@ -1,0 +1,126 @@
+#include "browse_kinds.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include "dpi.h"
+#include "form_window.h"
+
+namespace qs::win {
+
+void OptionButtonWindow::Create() {
+    CreateChild(L"BUTTON", BS_RADIOBUTTON | WS_TABSTOP);
+    if (Handle() == nullptr) return;
+    OnChanged(ui::Property::Text);
+    OnChanged(ui::Property::Value);
+}
+
+void OptionButtonWindow::OnChanged(ui::Property what) {
+    if (Handle() == nullptr) return;
+    if (what == ui::Property::Text) ::SetWindowTextW(Handle(), option_.Caption().c_str());
+    if (what == ui::Property::Value) {
+        ::SendMessageW(Handle(), BM_SETCHECK, option_.Value() ? BST_CHECKED : BST_UNCHECKED, 0);
+    }
+}
+
+void OptionButtonWindow::OnCommand(WORD code) {
+    if (code == BN_CLICKED) option_.UserClicked();
+}
+
+void FrameWindow::Create() {
+    if (frame_.Bordered()) {
+        CreateChild(L"BUTTON", BS_GROUPBOX);
+        if (Handle() == nullptr) return;
+        ::SetWindowTextW(Handle(), frame_.Caption().c_str());
+    } else {
+        CreateChild(L"STATIC", SS_NOTIFY);
+        if (Handle() == nullptr) return;
+        ::SetWindowSubclass(Handle(), AreaProc, 1, reinterpret_cast<DWORD_PTR>(this));
+    }
+    // Beneath every other control, so the frame never covers what it holds.
+    ::SetWindowPos(Handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void FrameWindow::OnChanged(ui::Property what) {
+    if (Handle() != nullptr && what == ui::Property::Text && frame_.Bordered()) {
+        ::SetWindowTextW(Handle(), frame_.Caption().c_str());
+    }
+}
+
+LRESULT CALLBACK FrameWindow::AreaProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                       DWORD_PTR self) {
+    auto* frame = reinterpret_cast<FrameWindow*>(self);
+    if (message == WM_MOUSEMOVE && !frame->Detached()) {
+        const std::int16_t button = (wParam & MK_LBUTTON) != 0 ? ui::LeftButton : std::int16_t{0};
+        const UINT dpi = frame->Form().Dpi();
+        frame->frame_.UserMouseMove(button, 0, PixelsToTwips(GET_X_LPARAM(lParam), dpi),
+                                    PixelsToTwips(GET_Y_LPARAM(lParam), dpi));
+    }
+    return ::DefSubclassProc(window, message, wParam, lParam);
+}
+
+void DriveBoxWindow::Create() {
+    CreateChild(L"COMBOBOX", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP);
+    if (Handle() == nullptr) return;
+    for (std::int32_t i = 0; i < drives_.ListCount(); ++i) ItemInserted(i);
+    WriteIndex();
+}
+
+RECT DriveBoxWindow::PixelRect() const {
+    // The window's height includes its dropped list: room for ten drives.
+    RECT r = ControlWindow::PixelRect();
+    r.bottom = r.top + (r.bottom - r.top) * 10;
+    return r;
+}
+
+void DriveBoxWindow::OnChanged(ui::Property what) {
+    if (Handle() != nullptr && what == ui::Property::ListIndex) WriteIndex();
+}
+
+void DriveBoxWindow::ItemInserted(std::int32_t index) {
+    if (Detached() || Handle() == nullptr) return;
+    ::SendMessageW(Handle(), CB_INSERTSTRING, static_cast<WPARAM>(index),
+                   reinterpret_cast<LPARAM>(drives_.List(index).c_str()));
+}
+
+void DriveBoxWindow::ItemRemoved(std::int32_t index) {
+    if (Detached() || Handle() == nullptr) return;
+    ::SendMessageW(Handle(), CB_DELETESTRING, static_cast<WPARAM>(index), 0);
+}
+
+void DriveBoxWindow::ItemChanged(std::int32_t index) {
+    ItemRemoved(index);
+    ItemInserted(index);
+    if (Handle() != nullptr && drives_.ListIndex() == index) WriteIndex();
+}
+
+void DriveBoxWindow::ItemsCleared() {
+    if (Detached() || Handle() == nullptr) return;
+    ::SendMessageW(Handle(), CB_RESETCONTENT, 0, 0);
+}
+
+void DriveBoxWindow::WriteIndex() {
+    ::SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(drives_.ListIndex()), 0);
+}
+
+void DriveBoxWindow::OnCommand(WORD code) {
+    if (code != CBN_SELCHANGE || Handle() == nullptr) return;
+    const LRESULT index = ::SendMessageW(Handle(), CB_GETCURSEL, 0, 0);
+    drives_.UserSelected(index == CB_ERR ? -1 : static_cast<std::int32_t>(index));
+}
+
+std::wstring DirBoxWindow::ItemText(std::int32_t index) const {
+    return std::wstring(static_cast<std::size_t>(dirs_.DepthAt(index)) * 3, L' ') + dirs_.List(index);
+}
+
+void DirBoxWindow::OnCommand(WORD code) {
+    if (code != LBN_DBLCLK) {
+        ListBoxWindow::OnCommand(code);
+        return;
+    }
+    if (Handle() == nullptr) return;
+    const LRESULT index = ::SendMessageW(Handle(), LB_GETCURSEL, 0, 0);
+    if (index != LB_ERR) dirs_.UserOpened(static_cast<std::int32_t>(index));
+}
+
+}  // namespace qs::win
