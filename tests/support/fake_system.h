@@ -3,6 +3,7 @@
 // temporary folders of the real file system, a registry in memory, and a
 // record of every launch.
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -82,6 +83,34 @@ public:
     void StartScreenSaver() override { ++screenSaverStarts; }
     void CreateShortcut(const ShortcutDetails& shortcut) override;
     [[noreturn]] void EndProgram() override { throw ProgramEnded{}; }
+
+    // The bar on the desktop: the pointer's place, and a record of every
+    // tray call and drag, with the form each was made for.
+    PixelPoint cursor{-1, -1};
+    struct TrayCall {
+        enum class Kind { Add, Delete } kind;
+        const ui::Form* form;
+        TrayIconData data;
+    };
+    std::vector<TrayCall> trayCalls;
+    std::vector<const ui::Form*> drags;
+    // Where a drag leaves the form, in twips; none leaves it where it was.
+    std::function<void(const ui::Form&)> onDrag;
+    std::int64_t cursorReads = 0;
+    PixelPoint CursorPosition() override {
+        ++cursorReads;
+        return cursor;
+    }
+    void TrayIconAdd(const ui::Form& form, const TrayIconData& data) override {
+        trayCalls.push_back({TrayCall::Kind::Add, &form, data});
+    }
+    void TrayIconDelete(const ui::Form& form, const TrayIconData& data) override {
+        trayCalls.push_back({TrayCall::Kind::Delete, &form, data});
+    }
+    void DragBySurface(const ui::Form& form) override {
+        drags.push_back(&form);
+        if (onDrag) onDrag(form);
+    }
 
     std::map<wchar_t, DriveType> driveTypes;
     std::map<std::wstring, std::int32_t> attributes;
