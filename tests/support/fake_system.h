@@ -47,6 +47,8 @@ public:
     std::int32_t screenWidthTwips = 1920 * 15;
     std::int32_t screenHeightTwips = 1080 * 15;
     std::int32_t twipsPerPixel = 15;
+    // The vertical ratio where it differs from the horizontal one; 0: the same.
+    std::int32_t twipsPerPixelY = 0;
     PixelRect workArea{0, 0, 1920, 1040};
     CalendarDate today{2026, 11, 15};
     // When set, every shell call throws as a broken shell would.
@@ -77,7 +79,7 @@ public:
     std::int32_t ScreenWidthTwips() override { return screenWidthTwips; }
     std::int32_t ScreenHeightTwips() override { return screenHeightTwips; }
     std::int32_t TwipsPerPixelX() override { return twipsPerPixel; }
-    std::int32_t TwipsPerPixelY() override { return twipsPerPixel; }
+    std::int32_t TwipsPerPixelY() override { return twipsPerPixelY != 0 ? twipsPerPixelY : twipsPerPixel; }
     PixelRect WorkArea() override { return workArea; }
     CalendarDate Today() override { return today; }
     void StartScreenSaver() override { ++screenSaverStarts; }
