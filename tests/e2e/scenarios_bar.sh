@@ -3,6 +3,17 @@
 # pane and an item added there that lasts an exit, the tray, the drag with
 # the work-area clamp, and a pane opening above a bar near the bottom.
 
+BAR_TIP=""
+BAR_LEFT=0
+BAR_TOP=0
+BAR_RIGHT=0
+BAR_BOTTOM=0
+BAR_VISIBLE=""
+BAR_X=0
+BAR_Y=0
+BAR_PANE_TOP=0
+BAR_PANE_BOTTOM=0
+
 # Reads the bar's window with the bar tool into BAR_LEFT, BAR_TOP, BAR_RIGHT,
 # BAR_BOTTOM and BAR_VISIBLE.
 bar_read() {
@@ -47,7 +58,9 @@ bar_expect_tip() {
   bar_centre TextMain || return 1
   xdotool mousemove "$BAR_X" "$BAR_Y"
   bar_centre "$name" || return 1
-  xdotool mousemove "$BAR_X" "$BAR_Y"
+  # A hand arrives in several small moves, not in one jump.
+  xdotool mousemove "$((BAR_X - 2))" "$BAR_Y" sleep 0.1 mousemove "$((BAR_X - 1))" "$BAR_Y" sleep 0.1 \
+    mousemove "$BAR_X" "$BAR_Y"
   qs_poll 6 bar_tip_is "$tip" || e2e_fail "$name shows the tip \"$BAR_TIP\", expected \"$tip\""
 }
 
@@ -155,14 +168,13 @@ bar_drag_and_clamp() {
   local x=$BAR_X y=$BAR_Y
   bar_read || return 1
   local left=$BAR_LEFT
-  xdotool mousemove "$x" "$y" mousedown 1
-  xdotool mousemove "$((x + 40))" "$((y + 30))" mousemove "$((x + 80))" "$((y + 60))"
-  xdotool mouseup 1
+  # Paced as a hand drags: the system's move loop starts on the first move.
+  xdotool mousemove "$x" "$y" mousedown 1 sleep 0.2 mousemove "$((x + 4))" "$((y + 3))" sleep 0.2 \
+    mousemove "$((x + 40))" "$((y + 30))" sleep 0.2 mousemove "$((x + 80))" "$((y + 60))" sleep 0.2 mouseup 1
   qs_poll 5 bar_left_moved "$left" || e2e_fail "the drag did not move the bar (left $BAR_LEFT)" || return 1
   bar_centre Gap || return 1
-  xdotool mousemove "$BAR_X" "$BAR_Y" mousedown 1
-  xdotool mousemove "$((BAR_X - 600))" "$((BAR_Y + 100))" mousemove 5 "$((BAR_Y + 100))"
-  xdotool mouseup 1
+  xdotool mousemove "$BAR_X" "$BAR_Y" mousedown 1 sleep 0.2 mousemove "$((BAR_X - 4))" "$((BAR_Y + 3))" sleep 0.2 \
+    mousemove "$((BAR_X - 600))" "$((BAR_Y + 100))" sleep 0.2 mousemove 5 "$((BAR_Y + 100))" sleep 0.2 mouseup 1
   # The end of the drag keeps the bar in the work area: its left edge at 0.
   xdotool mousemove 300 "$((BAR_Y + 100))"
   qs_poll 5 bar_left_is 0 || e2e_fail "the bar was left at $BAR_LEFT after a drag past the left edge"
@@ -187,9 +199,8 @@ bar_pane_top() {
 
 bar_pane_opens_above_near_the_bottom() {
   bar_centre Gap || return 1
-  xdotool mousemove "$BAR_X" "$BAR_Y" mousedown 1
-  xdotool mousemove "$BAR_X" "$((BAR_Y + 400))" mousemove "$BAR_X" 5000
-  xdotool mouseup 1
+  xdotool mousemove "$BAR_X" "$BAR_Y" mousedown 1 sleep 0.2 mousemove "$BAR_X" "$((BAR_Y + 3))" sleep 0.2 \
+    mousemove "$BAR_X" "$((BAR_Y + 400))" sleep 0.2 mousemove "$BAR_X" 1430 sleep 0.2 mouseup 1
   xdotool mousemove "$((BAR_X + 2))" 1400
   qs_poll 5 bar_near_bottom || e2e_fail "the bar did not reach the bottom (top $BAR_TOP)" || return 1
   bar_click PictureMenu0 || return 1
