@@ -163,25 +163,21 @@ bar_tray_and_back() {
   e2e_wait_launch "http://www.tray.example"
 }
 
+# Dragged from the gap between the first two strips to the screen's left
+# edge and 100 pixels down: the bar follows the pointer down, and the end of
+# the drag puts its left edge, which went past the screen's, back at 0.
 bar_drag_and_clamp() {
-  bar_centre Gap || return 1
-  local x=$BAR_X y=$BAR_Y
   bar_read || return 1
-  local left=$BAR_LEFT
-  # Paced as a hand drags: the system's move loop starts on the first move.
-  xdotool mousemove "$x" "$y" mousedown 1 sleep 0.2 mousemove "$((x + 4))" "$((y + 3))" sleep 0.2 \
-    mousemove "$((x + 40))" "$((y + 30))" sleep 0.2 mousemove "$((x + 80))" "$((y + 60))" sleep 0.2 mouseup 1
-  qs_poll 5 bar_left_moved "$left" || e2e_fail "the drag did not move the bar (left $BAR_LEFT)" || return 1
+  local top=$BAR_TOP
   bar_centre Gap || return 1
   xdotool mousemove "$BAR_X" "$BAR_Y" mousedown 1 sleep 0.2 mousemove "$((BAR_X - 4))" "$((BAR_Y + 3))" sleep 0.2 \
-    mousemove "$((BAR_X - 600))" "$((BAR_Y + 100))" sleep 0.2 mousemove 5 "$((BAR_Y + 100))" sleep 0.2 mouseup 1
-  # The end of the drag keeps the bar in the work area: its left edge at 0.
-  xdotool mousemove 300 "$((BAR_Y + 100))"
+    mousemove "$((BAR_X - 30))" "$((BAR_Y + 50))" sleep 0.2 mousemove 5 "$((BAR_Y + 100))" sleep 0.2 mouseup 1
+  qs_poll 5 bar_top_is_past "$((top + 90))" || e2e_fail "the drag did not move the bar (top $BAR_TOP)" || return 1
   qs_poll 5 bar_left_is 0 || e2e_fail "the bar was left at $BAR_LEFT after a drag past the left edge"
 }
 
-bar_left_moved() {
-  bar_read && [ "$BAR_LEFT" -ne "$1" ]
+bar_top_is_past() {
+  bar_read && [ "$BAR_TOP" -ge "$1" ]
 }
 
 bar_left_is() {
