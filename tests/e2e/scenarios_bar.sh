@@ -200,6 +200,7 @@ bar_pane_opens_above_near_the_bottom() {
   xdotool mousemove "$((BAR_X + 2))" 1400
   qs_poll 5 bar_near_bottom || e2e_fail "the bar did not reach the bottom (top $BAR_TOP)" || return 1
   bar_click PictureMenu0 || return 1
+  e2e_screenshot clicked
   qs_poll 10 bar_pane_top || e2e_fail "the Add Item pane did not open" || return 1
   bar_read || return 1
   e2e_screenshot pane-above
