@@ -7,6 +7,9 @@
 #                     flash drive
 #   bench_autofill    one auto-fill keystroke with 32,767 names in a group
 #                     against a scan from the top of the list
+#   bench_bar         picture updates of the bar's hover poll that reach a
+#                     window, pointer away and resting on a button, and the
+#                     time of a theme switch
 # QS_NATIVE_BUILD names another build folder than build/native.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -17,3 +20,6 @@ echo "== Launch List store (bench_list_store)"
 echo
 echo "== auto-fill (bench_autofill)"
 "$native_dir/bench/bench_autofill"
+echo
+echo "== the bar (bench_bar)"
+"$native_dir/bench/bench_bar"

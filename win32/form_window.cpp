@@ -414,7 +414,26 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                 return 0;
             }
             break;
+        case WM_MOUSEMOVE:
+            // Also the tray icon's callback: the bar asked for its icon's
+            // mouse messages to come as its own mouse moves.
+            // Only the bare surface between the strips delivers it while the
+            // form shows; a hidden bar hears its tray icon.
+            if (form_.MouseMove && ::IsWindowVisible(window) &&
+                OverStrip({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) {
+                return 0;
+            }
+            if (form_.MouseMove) {
+                const std::int16_t button = (wParam & MK_LBUTTON) != 0 ? 1 : (wParam & MK_RBUTTON) != 0 ? 2 : 0;
+                const std::int16_t shift = ((wParam & MK_SHIFT) != 0 ? 1 : 0) | ((wParam & MK_CONTROL) != 0 ? 2 : 0);
+                form_.UserMouseMove(button, shift, PixelsToTwips(GET_X_LPARAM(lParam), dpi_),
+                                    PixelsToTwips(GET_Y_LPARAM(lParam), dpi_));
+                return 0;
+            }
+            break;
         case WM_LBUTTONDOWN:
+            // A form with a mouse-move handler drags itself from there.
+            if (form_.MouseMove) break;
             // The bare body of a form is its caption: dragging it moves the
             // window. The strips lying on it are not bare.
             if (OverStrip({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) return 0;

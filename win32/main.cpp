@@ -6,6 +6,7 @@
 #include "common/application.h"
 #include "startup/active_start.h"
 #include "dpi.h"
+#include "drop_target.h"
 #include "com.h"
 #include "win32_backend.h"
 #include "win32_system.h"
@@ -14,12 +15,15 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
     qs::win::EnablePerMonitorDpi();
     qs::win::Win32System system;
     qs::win::ComScope com;
+    // Text dropped from other programs needs OLE, not COM alone.
+    qs::win::OleScope ole;
     INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_STANDARD_CLASSES};
     ::InitCommonControlsEx(&controls);
 
     qs::Application app(system);
     qs::win::Win32Backend backend(instance);
     app.AttachBackend(&backend);
+    system.SetWindowLookup([&backend](const qs::ui::Form& form) { return backend.WindowOf(form); });
 
     try {
         qs::Main(app);

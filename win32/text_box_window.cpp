@@ -33,6 +33,7 @@ void TextBoxWindow::Create() {
     if (box_.Locked()) style |= ES_READONLY;
     CreateChild(L"EDIT", style);
     if (Handle() == nullptr) return;
+    if (box_.AcceptsTextDrop()) drop_ = std::make_unique<TextDropRegistration>(Handle(), box_);
     // On a dialog the form draws a thin line round the box, so the text
     // keeps a little room from it.
     if (Form().Model().Style() == ui::FormStyle::Dialog) {

@@ -3,7 +3,10 @@
 // user's keys go to the control's KeyPress first, which may swallow them;
 // edits and selection moves are reported back; text and selection written by
 // code are mirrored without echoing a change back.
+#include <memory>
+
 #include "control_window.h"
+#include "drop_target.h"
 #include "ui/text_box.h"
 
 namespace qs::win {
@@ -34,6 +37,8 @@ private:
     ui::TextBox& box_;
     // True while code writes the window's text, so its EN_CHANGE is no edit.
     bool writing_ = false;
+    // Present while the box takes text dropped from other programs.
+    std::unique_ptr<TextDropRegistration> drop_;
 };
 
 }  // namespace qs::win

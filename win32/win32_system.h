@@ -1,5 +1,9 @@
 #pragma once
 // The operating-system services of the program, from Windows.
+#include <windows.h>
+
+#include <functional>
+
 #include "handles.h"
 #include "platform/system.h"
 
@@ -44,15 +48,25 @@ public:
     void StartScreenSaver() override;
     void CreateShortcut(const ShortcutDetails& shortcut) override;
 
+    PixelPoint CursorPosition() override;
+    void TrayIconAdd(const ui::Form& form, const TrayIconData& data) override;
+    void TrayIconDelete(const ui::Form& form, const TrayIconData& data) override;
+    void DragBySurface(const ui::Form& form) override;
+
     [[noreturn]] void EndProgram() override;
 
     std::vector<DriveEntry> ListDrives() override;
     FolderListing ListFolder(const std::wstring& folder) override;
+    // How the system finds the window of a form: the window backend's.
+    void SetWindowLookup(std::function<HWND(const ui::Form&)> lookup);
 
 private:
     // The single-instance mutex, held from the first check to the end.
     KernelHandle runningMutex_;
     bool anotherCopy_ = false;
+    std::function<HWND(const ui::Form&)> windowOf_;
+
+    HWND WindowOf(const ui::Form& form) const;
 };
 
 }  // namespace qs::win

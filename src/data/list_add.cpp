@@ -108,6 +108,8 @@ void ActionListAddNew(Application& app, const std::wstring& name, const std::wst
 void ActionListAddWeb(Application& app, const std::wstring& name, const std::wstring& url) {
     try {
         AddItemInStep(*app.frmChoose.ComboListItemName.at(4), *app.frmChoose.ComboListItemPath.at(4), name, url);
+        app.frmMain.TextWebName.SetText(L"");
+        app.frmMain.TextWebUrl.SetText(L"");
         EmptyTextMain(app, true);
     } catch (const std::exception&) {
         ReportBug(app, L"ActionListAddWeb");

@@ -2,6 +2,7 @@
 // Everything the program asks of the operating system. The product gets the
 // Windows implementation; the tests get one over temporary folders that
 // records every launch.
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -9,6 +10,10 @@
 #include "platform/file_browsing.h"
 
 namespace qs {
+
+namespace ui {
+class Form;
+}
 
 struct DriveInfo {
     std::wstring letter;  // "C", as the system spells it
@@ -21,6 +26,21 @@ struct PixelRect {
     std::int32_t top = 0;
     std::int32_t right = 0;
     std::int32_t bottom = 0;
+};
+
+struct PixelPoint {
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+};
+
+// The notification-area icon's record, in the order of the Windows record;
+// the window and the icon handle are the form's own, filled by the system.
+struct TrayIconData {
+    std::int32_t cbSize = 0;
+    std::int32_t uID = 0;
+    std::int32_t uFlags = 0;
+    std::int32_t uCallbackMessage = 0;
+    std::array<char, 64> szTip{};
 };
 
 struct CalendarDate {
@@ -103,6 +123,15 @@ public:
     // Desktop integration.
     virtual void StartScreenSaver() = 0;
     virtual void CreateShortcut(const ShortcutDetails& shortcut) = 0;
+
+    // The bar on the desktop. The pointer's place on the screen in pixels;
+    // the form's icon in the notification area, added (NIM_ADD) and removed
+    // (NIM_DELETE); and a drag of the form's window by its surface, which
+    // returns when the mouse button is released.
+    virtual PixelPoint CursorPosition() = 0;
+    virtual void TrayIconAdd(const ui::Form& form, const TrayIconData& data) = 0;
+    virtual void TrayIconDelete(const ui::Form& form, const TrayIconData& data) = 0;
+    virtual void DragBySurface(const ui::Form& form) = 0;
 
     // Ends the process at once, nothing saved.
     [[noreturn]] virtual void EndProgram() = 0;

@@ -66,18 +66,6 @@ void ThemeCreate(Application& app, std::int16_t& t) {
     }
 }
 
-void ThemeApplyOnMain(Application& app, std::int16_t /*t*/) {
-    try {
-        const ThemeState& s = app.theme;
-        FrmMain& f = app.frmMain;
-        f.SetBackColor(s.CurrentFormColor);
-        f.TextMain.SetBackColor(s.CurrentBoxColor);
-        f.TextMain.SetForeColor(s.CurrentTextColor);
-    } catch (const std::exception&) {
-        ReportBug(app, L"ThemeApplyOnMain");
-    }
-}
-
 void ThemeApplyOnMessage(Application& app, std::int16_t t) {
     try {
         const ThemeState& s = app.theme;

@@ -74,6 +74,13 @@ public:
     std::function<void()> LoadEvent;
     std::function<void()> UnloadEvent;
 
+    // The pointer moved over the form's bare surface (or, for the bar, over
+    // its tray icon): Button 1 left, 2 right; X and Y in twips.
+    std::function<void(std::int16_t button, std::int16_t shift, std::int32_t x, std::int32_t y)> MouseMove;
+    void UserMouseMove(std::int16_t button, std::int16_t shift, std::int32_t x, std::int32_t y) {
+        if (MouseMove) MouseMove(button, shift, x, y);
+    }
+
     // The user moved the form (dragged it, or the system placed it).
     void UserMoved(std::int32_t left, std::int32_t top);
 

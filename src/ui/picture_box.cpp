@@ -3,6 +3,8 @@
 namespace qs::ui {
 
 void PictureBox::SetPicture(PictureRef picture) {
+    // Setting the picture shown already costs the window nothing.
+    if (picture_ == picture) return;
     picture_ = picture;
     Notify(Property::Picture);
 }

@@ -27,6 +27,11 @@ public:
     void SetLocked(bool locked);
     bool MultiLine() const { return multiLine_; }
 
+    // Text dragged from another program and dropped on the box lands in it
+    // as the user's own edit, so Change fires. Set before the form loads.
+    bool AcceptsTextDrop() const { return acceptsTextDrop_; }
+    void SetAcceptsTextDrop(bool accepts) { acceptsTextDrop_ = accepts; }
+
     // Events. KeyPress may set the key to 0 to swallow it.
     std::function<void()> Change;
     std::function<void(std::int16_t& key)> KeyPress;
@@ -55,6 +60,7 @@ private:
     std::int32_t selLength_ = 0;
     bool locked_ = false;
     bool multiLine_;
+    bool acceptsTextDrop_ = false;
 };
 
 }  // namespace qs::ui

@@ -62,6 +62,10 @@ public:
     CalendarDate Today() override { return {2026, 11, 15}; }
     void StartScreenSaver() override {}
     void CreateShortcut(const ShortcutDetails&) override {}
+    PixelPoint CursorPosition() override { return {-1, -1}; }
+    void TrayIconAdd(const ui::Form&, const TrayIconData&) override {}
+    void TrayIconDelete(const ui::Form&, const TrayIconData&) override {}
+    void DragBySurface(const ui::Form&) override {}
     [[noreturn]] void EndProgram() override { __builtin_trap(); }
     // The readers never browse the disk.
     std::vector<DriveEntry> ListDrives() override { throw SystemCallFailed("not available"); }

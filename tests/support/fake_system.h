@@ -49,6 +49,8 @@ public:
     std::int32_t screenWidthTwips = 1920 * 15;
     std::int32_t screenHeightTwips = 1080 * 15;
     std::int32_t twipsPerPixel = 15;
+    // The vertical ratio where it differs from the horizontal one; 0: the same.
+    std::int32_t twipsPerPixelY = 0;
     PixelRect workArea{0, 0, 1920, 1040};
     CalendarDate today{2026, 11, 15};
     // When set, every shell call throws as a broken shell would.
@@ -91,7 +93,7 @@ public:
     std::int32_t ScreenWidthTwips() override { return screenWidthTwips; }
     std::int32_t ScreenHeightTwips() override { return screenHeightTwips; }
     std::int32_t TwipsPerPixelX() override { return twipsPerPixel; }
-    std::int32_t TwipsPerPixelY() override { return twipsPerPixel; }
+    std::int32_t TwipsPerPixelY() override { return twipsPerPixelY != 0 ? twipsPerPixelY : twipsPerPixel; }
     PixelRect WorkArea() override { return workArea; }
     CalendarDate Today() override { return today; }
     void StartScreenSaver() override { ++screenSaverStarts; }
@@ -99,6 +101,34 @@ public:
     [[noreturn]] void EndProgram() override { throw ProgramEnded{}; }
     std::vector<DriveEntry> ListDrives() override;
     FolderListing ListFolder(const std::wstring& folder) override;
+
+    // The bar on the desktop: the pointer's place, and a record of every
+    // tray call and drag, with the form each was made for.
+    PixelPoint cursor{-1, -1};
+    struct TrayCall {
+        enum class Kind { Add, Delete } kind;
+        const ui::Form* form;
+        TrayIconData data;
+    };
+    std::vector<TrayCall> trayCalls;
+    std::vector<const ui::Form*> drags;
+    // Where a drag leaves the form, in twips; none leaves it where it was.
+    std::function<void(const ui::Form&)> onDrag;
+    std::int64_t cursorReads = 0;
+    PixelPoint CursorPosition() override {
+        ++cursorReads;
+        return cursor;
+    }
+    void TrayIconAdd(const ui::Form& form, const TrayIconData& data) override {
+        trayCalls.push_back({TrayCall::Kind::Add, &form, data});
+    }
+    void TrayIconDelete(const ui::Form& form, const TrayIconData& data) override {
+        trayCalls.push_back({TrayCall::Kind::Delete, &form, data});
+    }
+    void DragBySurface(const ui::Form& form) override {
+        drags.push_back(&form);
+        if (onDrag) onDrag(form);
+    }
 
     std::map<wchar_t, DriveType> driveTypes;
     std::map<std::wstring, std::int32_t> attributes;

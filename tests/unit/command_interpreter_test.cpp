@@ -263,17 +263,24 @@ TEST_F(CommandBox, FamilyMemberRunsItsProgramFile) {
 }
 
 TEST_F(CommandBox, HiddenButtonPerformsThePendingClick) {
+    // The Launch List pane opens only over a list with items.
+    t.AddItem(2, L"Player", L"C:\\Player.exe");
     t.app.PendingClick = 2;
     t.app.frmMain.CommandMainClick.SetValue(true);
     EXPECT_EQ(t.app.OpenMenuIndex, 2);
     EXPECT_EQ(t.app.PendingClick, -1);
+    // Showing the QuickLauncher closes the open pane.
     t.app.PendingClick = 5;
     t.app.frmMain.CommandMainClick.SetValue(true);
     EXPECT_TRUE(t.app.QuickOpen);
+    EXPECT_EQ(t.app.OpenMenuIndex, -1);
+    t.app.PendingClick = 3;
+    t.app.frmMain.CommandMainClick.SetValue(true);
+    EXPECT_EQ(t.app.OpenMenuIndex, 3);
     t.app.PendingClick = 7;
     t.app.frmMain.CommandMainClick.SetValue(true);
     EXPECT_EQ(t.app.PendingClick, -1);
-    EXPECT_EQ(t.app.OpenMenuIndex, 2);
+    EXPECT_EQ(t.app.OpenMenuIndex, 3);
     EXPECT_TRUE(t.app.QuickOpen);
 }
 

@@ -1,0 +1,89 @@
+// Opening and closing the panes that hang from the bar, Help, the
+// QuickLauncher, and the hidden button through which other windows click
+// the bar's buttons.
+#include "common/application.h"
+#include "common/failure.h"
+#include "startup/always_on_top.h"
+#include "windows/frm_browse.h"
+#include "windows/frm_main.h"
+
+namespace qs {
+
+namespace {
+
+// The items of the whole Launch List, added up in 16 bits.
+std::int16_t LaunchListItemCount(Application& app) {
+    std::int16_t sum = 0;
+    for (const std::size_t group : {2, 0, 1, 3, 4}) {
+        sum = ToInt16(sum + app.frmChoose.ComboListItemName[group]->ListCount());
+    }
+    return sum;
+}
+
+void UndoPushedTop(Application& app) {
+    if (app.SavedMainTop == -1) return;
+    app.frmMain.SetTop(app.SavedMainTop);
+    app.SavedMainTop = -1;
+}
+
+}  // namespace
+
+void FrmMain::PictureMenuClick(std::int16_t& index) {
+    // The button of the open pane closes it; any other opens its own.
+    app_.OpenMenuIndex = (app_.OpenMenuIndex == index) ? std::int16_t{-1} : index;
+    app_.frmBrowse.Hide();
+    app_.frmBrowse.SetHeight(BrowseHeight);
+    app_.frmChoose.Hide();
+    UndoPushedTop(app_);
+    FocusTextMain();
+    const bool paneOpen = app_.OpenMenuIndex != -1;
+    TimerOnTop.SetEnabled(!paneOpen && app_.settings.OptionAlwaysOnTop != 0);
+    if (!paneOpen) return;
+
+    // The pane stands over the bar, so the bar leaves the topmost band.
+    if (app_.settings.OptionAlwaysOnTop != 0) ActionAlwaysOnTopOff(app_);
+    if (app_.OpenMenuIndex == 2 && LaunchListItemCount(app_) < 1) {
+        // An empty Launch List has nothing to show: refused without a word.
+        app_.OpenMenuIndex = -1;
+        app_.frmBrowse.Hide();
+        app_.frmChoose.Hide();
+        UndoPushedTop(app_);
+        FocusTextMain();
+        return;
+    }
+    if (app_.OpenMenuIndex < 2) ActionSetBrowse(app_, app_.OpenMenuIndex);
+}
+
+void FrmMain::CloseOpenPane() {
+    if (app_.OpenMenuIndex == -1) return;
+    app_.OpenMenuIndex = -1;
+    app_.frmBrowse.Hide();
+    app_.frmChoose.Hide();
+    UndoPushedTop(app_);
+    FocusTextMain();
+}
+
+void FrmMain::PictureHelpClick() {
+    PictureNo.SetFocus();
+    app_.HelpOpen = !app_.HelpOpen;
+    if (app_.HelpOpen) CloseOpenPane();
+}
+
+void FrmMain::PictureShowQuickClick() {
+    app_.QuickOpen = !app_.QuickOpen;
+    if (app_.QuickOpen && app_.OpenMenuIndex != -1) PictureMenuClick(app_.OpenMenuIndex);
+    PictureShowQuick.SetPicture(QuickRestPicture());
+}
+
+void FrmMain::CommandMainClickClick() {
+    if (app_.PendingClick == -1) return;
+    if (app_.PendingClick >= 0 && app_.PendingClick <= 4) {
+        std::int16_t index = app_.PendingClick;
+        PictureMenuClick(index);
+    } else if (app_.PendingClick == 5) {
+        PictureShowQuickClick();
+    }
+    app_.PendingClick = -1;
+}
+
+}  // namespace qs
