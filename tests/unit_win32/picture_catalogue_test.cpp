@@ -195,12 +195,11 @@ TEST(PictureCatalogue, RoundEdgesAreSmoothAndCornersClearAtEveryDpi) {
         const PixelImage image = RenderPicture({PictureSlot::ImageMU, 2}, size, size, dpi / 96.0);
         EXPECT_EQ(At(image, 0, 0), 0u);
         EXPECT_EQ(Alpha(At(image, size / 2, size / 2)), 255u);
-        bool partial = false;
-        for (int x = 0; x < size / 2; ++x) {
-            const std::uint32_t a = Alpha(At(image, x, size / 2));
-            partial = partial || (a > 10 && a < 245);
-        }
-        EXPECT_TRUE(partial) << dpi;
+        // Round the rim, pixels the edge passes through are partly covered:
+        // about as many as the circle is long.
+        int partial = 0;
+        for (const std::uint32_t pixel : image.pixels) partial += (Alpha(pixel) > 10 && Alpha(pixel) < 245) ? 1 : 0;
+        EXPECT_GT(partial, 2 * size) << dpi;
     }
 }
 

@@ -8,8 +8,10 @@ namespace qs::win::art {
 
 namespace {
 
-ButtonColors Brighter(const ButtonColors& c, const Rgba& glow) {
-    return {Lighter(c.top, 0.30), Lighter(c.bottom, 0.22), Mix(c.rim, glow, 0.65), c.ink};
+// Under the pointer: a little more light and a glowing rim; on a dark
+// button only a little, so its light letter keeps its contrast.
+ButtonColors Brighter(const ButtonColors& c, const Rgba& glow, double light) {
+    return {Lighter(c.top, light), Lighter(c.bottom, light * 0.8), Mix(c.rim, glow, 0.65), c.ink};
 }
 
 ButtonColors Sunk(const ButtonColors& c) {
@@ -30,7 +32,7 @@ ThemeArt ThemeArtOf(std::int16_t theme) {
     if (a.dark) {
         a.ink = Opaque(ui::Rgb(242, 244, 246));
         a.rest = {Lighter(box, 0.24), Darker(form, 0.14), Darker(form, 0.50), a.ink};
-        a.over = Brighter(a.rest, Opaque(ui::Rgb(190, 235, 190)));
+        a.over = Brighter(a.rest, Opaque(ui::Rgb(190, 235, 190)), 0.12);
         a.body = Mix(form, box, 0.55);
         a.bodyLight = Lighter(a.body, 0.20);
         a.bodyShade = Darker(a.body, 0.18);
@@ -39,7 +41,7 @@ ThemeArt ThemeArtOf(std::int16_t theme) {
     } else {
         a.ink = Opaque(ui::Rgb(46, 52, 62));
         a.rest = {Lighter(box, 0.55), Darker(form, 0.10), Darker(form, 0.42), a.ink};
-        a.over = Brighter(a.rest, Opaque(ui::Rgb(70, 120, 200)));
+        a.over = Brighter(a.rest, Opaque(ui::Rgb(70, 120, 200)), 0.30);
         a.body = Mix(form, box, 0.65);
         a.bodyLight = Lighter(a.body, 0.35);
         a.bodyShade = Darker(a.body, 0.10);
