@@ -1,7 +1,7 @@
 // The test system's existence tests in bulk: targets are grouped by their
 // parent folder on the host, each parent is listed once, and a name is found
-// by the host file system's own comparison, which is what the single tests
-// rely on. Paths the listing cannot stand for take the single test.
+// by the host file system's own rule, which is what the single tests rely on.
+// Paths the listing cannot stand for take the single test.
 #include <system_error>
 #include <unordered_map>
 
@@ -30,6 +30,15 @@ bool ListingCanAnswer(const std::wstring& windowsPath) {
     }
     return parts > 0;
 }
+
+// A Windows host folds the case of names and strips trailing dots and blanks
+// in its own lookups: a name the listing lacks as spelled is asked of the
+// single test there. A Linux host compares names exactly, as the listing does.
+#ifdef _WIN32
+constexpr bool kHostRewritesNames = true;
+#else
+constexpr bool kHostRewritesNames = false;
+#endif
 
 struct Entry {
     bool file = false;
@@ -74,7 +83,10 @@ std::vector<bool> FakeSystem::ExistInBulk(const std::vector<std::wstring>& paths
         }
         for (std::size_t i : positions) {
             const auto at = entries.find(hosts[i].filename().native());
-            if (at == entries.end()) continue;
+            if (at == entries.end()) {
+                if (kHostRewritesNames) answers[i] = ExistsSingly(paths[i], kind);
+                continue;
+            }
             answers[i] = kind == EntryKind::File ? at->second.file : at->second.folder;
         }
     }
