@@ -51,6 +51,8 @@ source tests/e2e/scenarios_dpi.sh
 source tests/e2e/scenarios_damaged.sh
 # shellcheck source=scenarios_desktop.sh
 source tests/e2e/scenarios_desktop.sh
+# shellcheck source=scenarios_browse.sh
+source tests/e2e/scenarios_browse.sh
 
 finish() {
   qs_stop_wine
