@@ -35,10 +35,8 @@ void FrameWindow::Create() {
     } else {
         CreateChild(L"STATIC", SS_NOTIFY);
         if (Handle() == nullptr) return;
-        ::SetWindowSubclass(Handle(), AreaProc, 1, reinterpret_cast<DWORD_PTR>(this));
     }
-    // Beneath every other control, so the frame never covers what it holds.
-    ::SetWindowPos(Handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    ::SetWindowSubclass(Handle(), AreaProc, 1, reinterpret_cast<DWORD_PTR>(this));
 }
 
 void FrameWindow::OnChanged(ui::Property what) {
@@ -50,6 +48,17 @@ void FrameWindow::OnChanged(ui::Property what) {
 LRESULT CALLBACK FrameWindow::AreaProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                        DWORD_PTR self) {
     auto* frame = reinterpret_cast<FrameWindow*>(self);
+    if (message == WM_ERASEBKGND) {
+        // A group box paints only its line and caption: the inside takes
+        // the face the form gives its controls.
+        const auto dc = reinterpret_cast<HDC>(wParam);
+        const auto brush = reinterpret_cast<HBRUSH>(
+            ::SendMessageW(::GetParent(window), WM_CTLCOLORSTATIC, wParam, reinterpret_cast<LPARAM>(window)));
+        RECT client{};
+        ::GetClientRect(window, &client);
+        if (brush != nullptr) ::FillRect(dc, &client, brush);
+        return 1;
+    }
     if (message == WM_MOUSEMOVE && !frame->Detached()) {
         const std::int16_t button = (wParam & MK_LBUTTON) != 0 ? ui::LeftButton : std::int16_t{0};
         const UINT dpi = frame->Form().Dpi();

@@ -5,6 +5,7 @@
 #include "ui/dir_list_box.h"
 #include "ui/drive_list_box.h"
 #include "ui/frame.h"
+#include "ui/picture_box.h"
 #include "ui/option_button.h"
 
 namespace qs::win {

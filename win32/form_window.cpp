@@ -127,6 +127,11 @@ void FormWindow::ApplyTabOrder() {
         ::SetWindowPos(control->Handle(), after, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
         after = control->Handle();
     }
+    // A frame lies beneath the controls it holds.
+    for (const ControlWindow* control : tabOrder_) {
+        if (control->Handle() == nullptr || control->Model().Kind() != ui::ControlKind::Frame) continue;
+        ::SetWindowPos(control->Handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
 }
 
 ControlWindow* FormWindow::ControlById(int id) const {

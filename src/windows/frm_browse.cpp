@@ -71,10 +71,10 @@ void FrmBrowse::Layout() {
     FileWork.SetToolTipText(L"Single click to select");
     FileWork.SetPattern(L"*.exe");
 
-    FrameAddPath.Move(240, 5640, 4800, 840);
+    FrameAddPath.Move(240, 5640, 4800, 900);
     FrameAddPath.Place(TextAddPath, 180, 270, 4440, 315);
     FrameAddPath.Place(LabelAddPath, 180, 615, 4440, 225);
-    FrameAddToList.Move(240, 6600, 4800, 660);
+    FrameAddToList.Move(240, 6645, 4800, 660);
     FrameAddToList.Place(TextAddName, 180, 255, 3900, 315);
     FrameAddToList.Place(PictureAddOK, 4230, 195, 390, 390);
     PictureAddOK.SetToolTipText(L"OK");
@@ -82,7 +82,7 @@ void FrmBrowse::Layout() {
     TextAddName.SetEnabled(false);
     PictureAddOK.SetEnabled(false);
     PictureSelectOK.SetEnabled(false);
-    FrameFindPath.Move(240, 7380, 4800, 600);
+    FrameFindPath.Move(240, 7410, 4800, 600);
     FrameFindPath.Place(PictureFindPath, 180, 195, 330, 330);
     FrameFindPath.Place(LabelFindPath, 600, 240, 3000, 255);
 }

@@ -53,6 +53,8 @@ source tests/e2e/scenarios_damaged.sh
 source tests/e2e/scenarios_desktop.sh
 # shellcheck source=scenarios_bar.sh
 source tests/e2e/scenarios_bar.sh
+# shellcheck source=scenarios_browse.sh
+source tests/e2e/scenarios_browse.sh
 
 finish() {
   qs_stop_wine
