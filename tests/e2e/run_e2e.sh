@@ -55,6 +55,8 @@ source tests/e2e/scenarios_desktop.sh
 source tests/e2e/scenarios_bar.sh
 # shellcheck source=scenarios_browse.sh
 source tests/e2e/scenarios_browse.sh
+# shellcheck source=scenarios_themes.sh
+source tests/e2e/scenarios_themes.sh
 
 finish() {
   qs_stop_wine
