@@ -58,7 +58,7 @@ FaceDesign FormWindow::DesignFace() const {
     design.picture = form_.Picture();
     for (const auto& control : controls_) {
         const ui::Control& model = control->Model();
-        if (!model.Visible()) continue;
+        if (!model.Shown()) continue;
         if (model.Kind() == ui::ControlKind::PictureBox) {
             const ui::PictureRef& picture = static_cast<const ui::PictureBox&>(model).Picture();
             if (IsStripPicture(picture)) design.strips.push_back({ControlRect(model), picture});

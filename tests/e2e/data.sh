@@ -43,9 +43,10 @@ e2e_seed_family() {
 }
 
 # Writes a computer's settings record with the given program-list counter.
-# Usage: e2e_seed_set FILE PROGRAM_LAST [OPTIONS [THEME]]
+# LAST_FOLDER is the Add Item pane's last folder, empty by default.
+# Usage: e2e_seed_set FILE PROGRAM_LAST [OPTIONS [THEME [LAST_FOLDER]]]
 e2e_seed_set() {
-  e2e_write_lines "$1" 10 "${3:-57}" 0 0 '""' -1 -1 "$2" 8 2 "${4:-0}"
+  e2e_write_lines "$1" 10 "${3:-57}" 0 0 "\"${5:-}\"" -1 -1 "$2" 8 2 "${4:-0}"
 }
 
 # Writes a list file from NAME=TARGET pairs. Usage: e2e_seed_list FILE PAIR...

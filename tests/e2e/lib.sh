@@ -135,6 +135,18 @@ e2e_start_known() {
   e2e_start_quillstart
 }
 
+# The screen place of a bar control's middle into BAR_X and BAR_Y.
+bar_centre() {
+  wine "$E2E_TOOLS/bartool.exe" centre "$1" >"$E2E_WORK/centre.out" 2>/dev/null || return 1
+  IFS=, read -r BAR_X BAR_Y <<<"$(tr -d '\r' <"$E2E_WORK/centre.out" | sed -n 's/^centre=//p')"
+  [ -n "$BAR_X" ]
+}
+
+bar_click() {
+  bar_centre "$1" || e2e_fail "no place for $1" || return 1
+  xdotool mousemove "$BAR_X" "$BAR_Y" click 1
+}
+
 # Clicks into the middle of the Command box, which gives it the focus.
 e2e_click_box() {
   e2e_probe || e2e_fail "the probe found no Command box" || return 1

@@ -1,7 +1,7 @@
 # shellcheck shell=bash
-# The Add Item and Open pane, opened from the bar's first two menu buttons:
-# a Program added by choosing its file and typing a name, then run by "p-"
-# and saved at exit; the refusals with their dialogs; Open runs a file.
+# The Add Item pane, opened from the bar's first menu button: a Program
+# added by choosing its file and typing a name, then run by "p-" and saved
+# at exit.
 # The pane is a QuillstartDialog window titled "Add Item" or "Open"; a
 # message shown over it is one titled "Quillstart".
 
@@ -31,19 +31,10 @@ browse_click_rect() {
   xdotool mousemove $(((l + r) / 2)) "$y" click 1
 }
 
-# The bar's menu button i: the i-th visible picture child of the bar from
-# the left, the round button at the left end being the bar's own.
-browse_menu_rect() {
-  browse_children QuillstartBorderless || return 1
-  awk -F'\t' '$1 == "child=QuillstartPicture" && $2 == 1 { print $3 }' <<<"$E2E_CHILDREN" |
-    sort -t, -k1,1n | sed -n "$(($1 + 2))p"
-}
-
 # Opens the pane: mode 0 Add Item, 1 Open.
 browse_open() {
-  local rect title
-  rect=$(browse_menu_rect "$1") && [ -n "$rect" ] || e2e_fail "the bar shows no menu button $1" || return 1
-  browse_click_rect "$rect"
+  local title
+  bar_click "PictureMenu$1" || return 1
   title=$([ "$1" = 0 ] && echo 'Add Item' || echo 'Open')
   qs_poll 10 browse_pane_is "$title" || e2e_fail "the $title pane did not open"
 }
@@ -63,15 +54,10 @@ browse_child_rect() {
 # the top, rows as tall as a line of the dialog's font.
 browse_click_file() {
   browse_children QuillstartDialog || return 1
-  local rect row_height=$((13 * ${QS_DPI:-96} / 96))
+  local rect row_height=$((12 * ${QS_DPI:-96} / 96))
   rect=$(browse_child_rect ListBox '' 2)
   [ -n "$rect" ] || e2e_fail "the pane shows no file box" || return 1
   browse_click_rect "$rect" $((2 + row_height * $1 + row_height / 2))
-}
-
-browse_click_option() {
-  browse_children QuillstartDialog || return 1
-  browse_click_rect "$(browse_child_rect Button "$1")"
 }
 
 # Types a Launch Name into the name box (the lower of the two text boxes)
@@ -93,13 +79,6 @@ browse_message_says() {
     grep -F -- "$1" <<<"$E2E_CHILDREN" >/dev/null
 }
 
-browse_expect_message() {
-  qs_poll 10 browse_message_says "$1" || e2e_fail "no message saying \"$1\" appeared" || return 1
-  e2e_screenshot "message"
-  xdotool key Return
-  qs_poll 10 browse_pane_is "$2" || e2e_fail "the pane did not come back after the message"
-}
-
 # Chooses myTool.exe, names it "tool", adds it, runs it by "p-tool" and finds
 # it in ListProg.Morvane after the exit.
 add_program_runs_and_is_saved() {
@@ -119,45 +98,5 @@ add_program_runs_and_is_saved() {
     e2e_fail "ListProg.Morvane does not hold the added program: $(tr '\r\n' '||' <"$list" 2>/dev/null)"
 }
 
-# An unsafe extension, a duplicate path and a duplicate name each show their
-# dialog and add nothing.
-refusals_show_their_dialogs() {
-  browse_open 0 || return 1
-  browse_click_option File || return 1
-  browse_click_file 3 || return 1
-  qs_poll 10 browse_path_is 'C:\Quillstart\run.bat' || e2e_fail "choosing run.bat did not fill its path" || return 1
-  browse_name_and_enter runner || return 1
-  browse_expect_message "can't add to list files" 'Add Item' || return 1
-  browse_click_option Program || return 1
-  browse_click_file 0 || return 1
-  browse_name_and_enter tool || return 1
-  qs_poll 10 browse_path_is '' || e2e_fail "the first add did not go through" || return 1
-  browse_click_file 0 || return 1
-  browse_name_and_enter again || return 1
-  browse_expect_message 'Selected item has already been included in the List' 'Add Item' || return 1
-  browse_click_file 1 || return 1
-  browse_name_and_enter TOOL || return 1
-  browse_expect_message 'The name you typed is listed name' 'Add Item'
-}
-
-# Open lists every file; choosing notes.txt and the Open button opens it.
-open_runs_a_file() {
-  browse_open 1 || return 1
-  e2e_screenshot open
-  browse_click_file 1 || return 1
-  browse_children QuillstartDialog || return 1
-  browse_click_rect "$(awk -F'\t' '$1 == "child=QuillstartPicture" && $2 == 1 { print $3 }' <<<"$E2E_CHILDREN" |
-    sort -t, -k2,2n | head -2 | tail -1)"
-  e2e_wait_launch 'notes.txt' || return 1
-  qs_poll 10 browse_pane_gone || e2e_fail "the pane stayed open after Open"
-}
-
-browse_pane_gone() {
-  ! browse_pane_is Open
-}
-
 e2e_scenario 'a Program chosen in the Add Item pane and named runs by p- and is saved at exit' \
   add_program_runs_and_is_saved browse_start
-e2e_scenario 'an unsafe extension, a listed path and a listed name are refused with their dialogs' \
-  refusals_show_their_dialogs browse_start
-e2e_scenario 'the Open pane runs the chosen file' open_runs_a_file browse_start

@@ -13,7 +13,10 @@ lists_start() {
   e2e_seed_family C
   e2e_seed_program C 'Apps\myPlayer.exe'
   e2e_seed_program C 'Apps\zed.exe'
-  e2e_seed_set "$data/Set.Morvane" 1
+  # The Add Item pane opens in the program's folder, which the record
+  # already names, so nothing in it changes.
+  e2e_seed_set "$data/Set.Morvane" 1 57 0 'C:\Quillstart'
+
   e2e_seed_list "$data/ListProg.Morvane" 'myPlayer=C:\Apps\myPlayer.exe' 'zed=C:\Apps\zed.exe'
   cp "$data/ListProg.Morvane" "$E2E_WORK/ListProg.expected"
   cp "$data/Set.Morvane" "$E2E_WORK/Set.expected"

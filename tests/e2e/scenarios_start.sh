@@ -66,7 +66,9 @@ first_start_asks_the_name_then_welcomes() {
   e2e_command 'w;example.org' first-command || return 1
   e2e_wait_launch '"http://www.example.org"' || return 1
   e2e_close_bar || return 1
-  start_expected Set 10 57 0 0 '""' -1 -1 -1 8 2 0
+  # The Add Item pane, loaded at start, opens in the program's folder and
+  # keeps it as the last folder of a fixed disk.
+  start_expected Set 10 57 0 0 '"C:\Quillstart"' -1 -1 -1 8 2 0
   e2e_same_bytes "$c/$START_DATA/Set.Morvane" "$E2E_WORK/Set.expected" || return 1
   start_expected COMData 2 -1 -1
   e2e_same_bytes "$c/$START_DATA/COMData.Morvane" "$E2E_WORK/COMData.expected" || return 1
@@ -110,7 +112,7 @@ session_end_saves() {
   c=$(e2e_drive_dir C)
   [ ! -e "$c/$START_DATA/Set.Morvane" ] || e2e_fail "Set.Morvane existed before the session ended" || return 1
   e2e_close_bar endsession || return 1
-  start_expected Set 10 57 0 0 '""' -1 -1 -1 8 2 0
+  start_expected Set 10 57 0 0 '"C:\Quillstart"' -1 -1 -1 8 2 0
   e2e_same_bytes "$c/$START_DATA/Set.Morvane" "$E2E_WORK/Set.expected"
 }
 

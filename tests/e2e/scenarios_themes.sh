@@ -15,7 +15,7 @@ theme_start() {
 
 # The colour of one screen pixel as RRGGBB.
 screen_pixel() {
-  import -window root -crop "1x1+$1+$2" +repage txt:- 2>/dev/null | sed -n 's/.*#\([0-9A-Fa-f]\{6\}\).*/\1/p' | tr 'A-F' 'a-f'
+  import -window root -crop "1x1+$1+$2" +repage -depth 8 txt:- 2>/dev/null | sed -n 's/.*#\([0-9A-Fa-f]\{6\}\).*/\1/p' | tr 'A-F' 'a-f'
 }
 
 # Usage: theme_shows THEME

@@ -140,6 +140,18 @@ TEST_F(StartUp, AFalseAlarmOfTheRunningFlagStartsNormally) {
     EXPECT_TRUE(disk.FolderExists(L"C:\\Morvane"));
 }
 
+TEST_F(StartUp, AfterStartUpTheAddItemButtonOpensThePaneInTheProgramsFolder) {
+    ProgramRun run(disk);
+    AnswerName(run);
+    qs::Main(run.app);
+    run.app.frmMain.PictureMenu(0).Press();
+    EXPECT_EQ(run.app.OpenMenuIndex, 0);
+    EXPECT_TRUE(run.app.frmBrowse.Visible());
+    EXPECT_EQ(run.app.frmBrowse.Caption(), L"Add Item");
+    EXPECT_EQ(run.app.frmBrowse.CurrentFolder, L"C:\\Tools");
+    EXPECT_FALSE(run.Shown(L"Quillstart:Bug:ActionSetBrowse"));
+}
+
 TEST_F(StartUp, ProgramInsideTheWindowsFolderStartsNormally) {
     disk.applicationFolder = L"C:\\Windows\\Tools\\";
     disk.PutFile(L"C:\\Windows\\Tools\\Quillstart.exe");
