@@ -130,7 +130,8 @@ LRESULT PictureBoxWindow::HandlePicture(UINT message, WPARAM wParam, LPARAM lPar
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
             Pressed(ui::LeftButton, wParam, lParam);
-            return 0;
+            // The tooltip listens further down the chain: it hides on a press.
+            return ::DefSubclassProc(window, message, wParam, lParam);
         case WM_RBUTTONDOWN:
         case WM_RBUTTONDBLCLK:
             Pressed(ui::RightButton, wParam, lParam);
@@ -151,7 +152,8 @@ LRESULT PictureBoxWindow::HandlePicture(UINT message, WPARAM wParam, LPARAM lPar
                                                                      : 0;
             picture_.UserMouseMove(button, ShiftState(wParam), PixelsToTwips(GET_X_LPARAM(lParam), dpi),
                                    PixelsToTwips(GET_Y_LPARAM(lParam), dpi));
-            return 0;
+            // The tooltip listens further down the chain for the pointer.
+            return ::DefSubclassProc(window, message, wParam, lParam);
         }
         default:
             return ::DefSubclassProc(window, message, wParam, lParam);

@@ -1,6 +1,9 @@
 # shellcheck shell=bash
-# The bar itself: hover, the minimised bar, the web pane and an item added
-# there that lasts an exit, the tray, and the drag with the work-area clamp.
+# The bar itself: its buttons' tooltips, hover, the minimised bar, the web
+# pane and an item added there that lasts an exit, the tray, the drag with
+# the work-area clamp, and a pane opening above a bar near the bottom.
+
+BAR_TIP=""
 BAR_LEFT=0
 BAR_TOP=0
 BAR_RIGHT=0
@@ -8,6 +11,8 @@ BAR_BOTTOM=0
 BAR_VISIBLE=""
 BAR_X=0
 BAR_Y=0
+BAR_PANE_TOP=0
+BAR_PANE_BOTTOM=0
 
 # Reads the bar's window with the bar tool into BAR_LEFT, BAR_TOP, BAR_RIGHT,
 # BAR_BOTTOM and BAR_VISIBLE.
@@ -20,13 +25,45 @@ bar_read() {
   [ -n "$BAR_LEFT" ]
 }
 
-
 bar_width_is() {
   bar_read && [ $((BAR_RIGHT - BAR_LEFT)) -eq "$1" ]
 }
 
 bar_shown_is() {
   bar_read && [ "$BAR_VISIBLE" = "$1" ]
+}
+
+bar_tip_is() {
+  wine "$E2E_TOOLS/bartool.exe" tip >"$E2E_WORK/tip.out" 2>/dev/null || return 1
+  BAR_TIP=$(tr -d '\r' <"$E2E_WORK/tip.out" | sed -n 's/^tip=//p')
+  [ "$BAR_TIP" = "$1" ]
+}
+
+# The tip of one button: the pointer comes from the Command box, as a hand's
+# would, and rests on the button until the tip shows.
+bar_expect_tip() {
+  local name=$1 tip=$2
+  bar_centre TextMain || return 1
+  xdotool mousemove "$BAR_X" "$BAR_Y"
+  bar_centre "$name" || return 1
+  # A hand arrives in several small moves, not in one jump.
+  xdotool mousemove "$((BAR_X - 2))" "$BAR_Y" sleep 0.1 mousemove "$((BAR_X - 1))" "$BAR_Y" sleep 0.1 \
+    mousemove "$BAR_X" "$BAR_Y"
+  qs_poll 6 bar_tip_is "$tip" || e2e_fail "$name shows the tip \"$BAR_TIP\", expected \"$tip\""
+}
+
+bar_tooltips() {
+  bar_expect_tip PictureZero 'Minimize Window On Screen' || return 1
+  bar_expect_tip PictureMenu0 'Add Items To Launch List' || return 1
+  bar_expect_tip PictureMenu1 'Browse To Open File | Run Program' || return 1
+  bar_expect_tip PictureMenu2 'Show|HIde   Launch List' || return 1
+  bar_expect_tip PictureMenu3 'Show|Hide   Command Code|Predefined Launch Names' || return 1
+  bar_expect_tip PictureMenu4 'Show|Hide    Preferences Window' || return 1
+  bar_expect_tip PictureHelp 'Show|Hide Help' || return 1
+  bar_expect_tip PictureWeb 'Show|Hide   Add Web URL Window' || return 1
+  bar_expect_tip PictureShowQuick 'Show|Hide QuickLauncher' || return 1
+  bar_expect_tip PictureHide 'Hide Window In Tray' || return 1
+  bar_expect_tip PictureExit 'Exit'
 }
 
 # A crop of the screen round a bar control, as text pixels to compare.
@@ -135,8 +172,37 @@ bar_left_is() {
   bar_read && [ "$BAR_LEFT" -eq "$1" ]
 }
 
+# frmBrowse found as a shown dialog window of the program, its top edge.
+bar_pane_top() {
+  wine "$E2E_TOOLS/children.exe" >"$E2E_WORK/pane.out" 2>/dev/null || return 1
+  local rect
+  rect=$(tr -d '\r' <"$E2E_WORK/pane.out" | sed -n 's/^window=//p')
+  IFS=, read -r _ BAR_PANE_TOP _ BAR_PANE_BOTTOM <<<"$rect"
+  grep -q '^title=Add Item' <(tr -d '\r' <"$E2E_WORK/pane.out")
+}
+
+bar_pane_opens_above_near_the_bottom() {
+  bar_centre Gap || return 1
+  xdotool mousemove "$BAR_X" "$BAR_Y" mousedown 1 sleep 0.2 mousemove "$BAR_X" "$((BAR_Y + 3))" sleep 0.2 \
+    mousemove "$BAR_X" "$((BAR_Y + 400))" sleep 0.2 mousemove "$BAR_X" 1430 sleep 0.2 mouseup 1
+  xdotool mousemove "$((BAR_X + 2))" 1400
+  qs_poll 5 bar_near_bottom || e2e_fail "the bar did not reach the bottom (top $BAR_TOP)" || return 1
+  bar_click PictureMenu0 || return 1
+  e2e_screenshot clicked
+  qs_poll 10 bar_pane_top || e2e_fail "the Add Item pane did not open" || return 1
+  bar_read || return 1
+  e2e_screenshot pane-above
+  [ "$BAR_PANE_BOTTOM" -le "$BAR_TOP" ] || e2e_fail "the pane (top $BAR_PANE_TOP, bottom $BAR_PANE_BOTTOM) is not above the bar (top $BAR_TOP)"
+}
+
+bar_near_bottom() {
+  bar_read && [ "$BAR_TOP" -gt 1000 ]
+}
+
+e2e_scenario "each bar button's tooltip reads as the program's own" bar_tooltips
 e2e_scenario 'the pointer over a bar button changes its picture' bar_hover_changes_the_picture
 e2e_scenario 'the round button minimises the bar on screen and widens it again' bar_minimise_and_back
 e2e_scenario 'a web item added in the web pane launches by w- and lasts an exit by the exit button' bar_web_item_lasts_an_exit
 e2e_scenario 'the bar hides in the tray and comes back when the pointer touches the icon' bar_tray_and_back
 e2e_scenario 'the bar drags by its surface and stays in the work area' bar_drag_and_clamp
+e2e_scenario 'a pane opens above a bar near the bottom of the screen' bar_pane_opens_above_near_the_bottom

@@ -74,9 +74,15 @@ small_screen_ends_the_program() {
   [ ! -e "$(e2e_drive_dir C)/Morvane/Morvane Apps/Quillstart/Set.Morvane" ] || e2e_fail "a settings record was written"
 }
 
-# No Wine process of Quillstart.exe is left.
+# No process of Quillstart.exe is left in this suite's Wine session: only
+# processes whose environment names this prefix count, so a build or another
+# session elsewhere on the machine is never mistaken for it.
 quillstart_gone() {
-  ! pgrep -if 'quillstart\.exe' >/dev/null
+  local pid
+  for pid in $(pgrep -if 'quillstart\.exe'); do
+    tr '\0' '\n' <"/proc/$pid/environ" 2>/dev/null | grep -qxF "WINEPREFIX=$WINEPREFIX" && return 1
+  done
+  return 0
 }
 
 e2e_scenario 'at 240 DPI the screen counts as too small: the message, then the end' small_screen_ends_the_program dpi_start_240
