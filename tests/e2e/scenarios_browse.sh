@@ -1,7 +1,7 @@
 # shellcheck shell=bash
-# The Add Item pane, opened from the bar's first menu button: a Program
-# added by choosing its file and typing a name, then run by "p-" and saved
-# at exit.
+# The Add Item and Open pane, opened from the bar's first two menu buttons:
+# a Program added by choosing its file and typing a name, then run by "p-"
+# and saved at exit; the refusals with their dialogs; Open runs a file.
 # The pane is a QuillstartDialog window titled "Add Item" or "Open"; a
 # message shown over it is one titled "Quillstart".
 
@@ -46,8 +46,11 @@ browse_pane_is() {
 # The rectangle of the pane's visible child of a class, by its text or, with
 # an empty text, the n-th one from the top (1 first).
 browse_child_rect() {
-  awk -F'\t' -v cls="child=$1" -v text="$2" '$1 == cls && $2 == 1 && (text == "" || $4 == text) { print $3 }' \
-    <<<"$E2E_CHILDREN" | sort -t, -k2,2n | sed -n "${3:-1}p"
+  # The class and text come through the environment: awk would read the
+  # backslashes of a path given with -v as escapes.
+  cls="child=$1" text="$2" awk -F'\t' 'BEGIN { cls = ENVIRON["cls"]; text = ENVIRON["text"] }
+    $1 == cls && $2 == 1 && (text == "" || $4 == text) { print $3 }' <<<"$E2E_CHILDREN" |
+    sort -t, -k2,2n | sed -n "${3:-1}p"
 }
 
 # Clicks the n-th file of the file box (0 first): the second list box from
@@ -58,6 +61,11 @@ browse_click_file() {
   rect=$(browse_child_rect ListBox '' 2)
   [ -n "$rect" ] || e2e_fail "the pane shows no file box" || return 1
   browse_click_rect "$rect" $((2 + row_height * $1 + row_height / 2))
+}
+
+browse_click_option() {
+  browse_children QuillstartDialog || return 1
+  browse_click_rect "$(browse_child_rect Button "$1")"
 }
 
 # Types a Launch Name into the name box (the lower of the two text boxes)
@@ -79,6 +87,13 @@ browse_message_says() {
     grep -F -- "$1" <<<"$E2E_CHILDREN" >/dev/null
 }
 
+browse_expect_message() {
+  qs_poll 10 browse_message_says "$1" || e2e_fail "no message saying \"$1\" appeared" || return 1
+  e2e_screenshot "message"
+  xdotool key Return
+  qs_poll 10 browse_pane_is "$2" || e2e_fail "the pane did not come back after the message"
+}
+
 # Chooses myTool.exe, names it "tool", adds it, runs it by "p-tool" and finds
 # it in ListProg.Morvane after the exit.
 add_program_runs_and_is_saved() {
@@ -98,5 +113,47 @@ add_program_runs_and_is_saved() {
     e2e_fail "ListProg.Morvane does not hold the added program: $(tr '\r\n' '||' <"$list" 2>/dev/null)"
 }
 
+# An unsafe extension, a duplicate path and a duplicate name each show their
+# dialog and add nothing.
+refusals_show_their_dialogs() {
+  browse_open 0 || return 1
+  browse_click_option File || return 1
+  browse_click_file 4 || return 1
+  qs_poll 10 browse_path_is 'C:\Quillstart\run.bat' || e2e_fail "choosing run.bat did not fill its path" || return 1
+  browse_name_and_enter runner || return 1
+  browse_expect_message "can't add to list files" 'Add Item' || return 1
+  browse_click_option Program || return 1
+  browse_click_file 0 || return 1
+  browse_name_and_enter tool || return 1
+  qs_poll 10 browse_path_is '' || e2e_fail "the first add did not go through" || return 1
+  browse_click_file 0 || return 1
+  browse_name_and_enter again || return 1
+  browse_expect_message 'Selected item has already been included in the List' 'Add Item' || return 1
+  browse_click_file 1 || return 1
+  browse_name_and_enter TOOL || return 1
+  browse_expect_message 'The name you typed is listed name' 'Add Item'
+}
+
+# Open lists every file; choosing notes.txt and the Open button opens it.
+open_runs_a_file() {
+  browse_open 1 || return 1
+  e2e_screenshot open
+  browse_click_file 1 || return 1
+  e2e_screenshot chosen
+  browse_children QuillstartDialog || return 1
+  # The pane's shown pictures of some size, from the top: Close, then Open.
+  browse_click_rect "$(awk -F'\t' '$1 == "child=QuillstartPicture" && $2 == 1 {
+      split($3, r, ","); if (r[3] > r[1]) print $3 }' <<<"$E2E_CHILDREN" | sort -t, -k2,2n | sed -n 2p)"
+  e2e_wait_launch 'notes.txt' || return 1
+  qs_poll 10 browse_pane_gone || e2e_fail "the pane stayed open after Open"
+}
+
+browse_pane_gone() {
+  ! browse_pane_is Open
+}
+
 e2e_scenario 'a Program chosen in the Add Item pane and named runs by p- and is saved at exit' \
   add_program_runs_and_is_saved browse_start
+e2e_scenario 'an unsafe extension, a listed path and a listed name are refused with their dialogs' \
+  refusals_show_their_dialogs browse_start
+e2e_scenario 'the Open pane runs the chosen file' open_runs_a_file browse_start
