@@ -38,11 +38,20 @@ Win32Backend::~Win32Backend() {
 }
 
 void Win32Backend::FormLoaded(ui::Form& form) {
-    auto window = std::make_unique<FormWindow>(instance_, form);
-    windows_[&form] = std::move(window);
+    if (form.WindowWaitsForShow() && !form.Visible()) {
+        waiting_.insert(&form);
+        return;
+    }
+    windows_[&form] = std::make_unique<FormWindow>(instance_, form);
+}
+
+void Win32Backend::FormShowing(ui::Form& form) {
+    if (waiting_.erase(&form) == 0) return;
+    windows_[&form] = std::make_unique<FormWindow>(instance_, form);
 }
 
 void Win32Backend::FormUnloaded(ui::Form& form) {
+    if (waiting_.erase(&form) != 0) return;
     const auto found = windows_.find(&form);
     if (found == windows_.end()) return;
     // The form may be unloaded from inside one of its own window's messages,

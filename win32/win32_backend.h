@@ -4,6 +4,7 @@
 
 #include <map>
 #include <memory>
+#include <set>
 #include <vector>
 
 #include "ui/backend.h"
@@ -20,6 +21,7 @@ public:
     ~Win32Backend() override;
 
     void FormLoaded(ui::Form& form) override;
+    void FormShowing(ui::Form& form) override;
     void FormUnloaded(ui::Form& form) override;
     void RunModal(ui::Form& form) override;
 
@@ -42,6 +44,8 @@ private:
 
     HINSTANCE instance_;
     std::map<const ui::Form*, std::unique_ptr<FormWindow>> windows_;
+    // Loaded forms whose window waits for their first showing.
+    std::set<const ui::Form*> waiting_;
     std::vector<std::unique_ptr<FormWindow>> unloaded_;
     // How many modal loops run; unloaded windows are freed only outside them,
     // when no window procedure of theirs can still be on the stack.

@@ -47,6 +47,7 @@ void Form::Show() {
     Load();
     if (visible_) return;
     visible_ = true;
+    if (backend_ != nullptr) backend_->FormShowing(*this);
     Notify(Property::Visible);
 }
 
@@ -54,6 +55,7 @@ void Form::ShowModal() {
     Load();
     modal_ = true;
     visible_ = true;
+    if (backend_ != nullptr) backend_->FormShowing(*this);
     Notify(Property::Visible);
     if (backend_ != nullptr) backend_->RunModal(*this);
     modal_ = false;

@@ -67,6 +67,12 @@ public:
     void Unload();
     bool IsModal() const { return modal_; }
 
+    // A pane loaded at start and shown only on demand may have its window
+    // made at its first showing rather than at its load, so the start does
+    // not pay for it.
+    bool WindowWaitsForShow() const { return windowWaitsForShow_; }
+    void SetWindowWaitsForShow(bool waits) { windowWaitsForShow_ = waits; }
+
     void SetBackend(Backend* backend) { backend_ = backend; }
     void AttachPeer(FormPeer* peer) { peer_ = peer; }
     FormPeer* Peer() const { return peer_; }
@@ -103,6 +109,7 @@ private:
     bool visible_ = false;
     bool modal_ = false;
     bool topMost_ = false;
+    bool windowWaitsForShow_ = false;
     Backend* backend_ = nullptr;
     FormPeer* peer_ = nullptr;
 };

@@ -32,6 +32,7 @@ FrmBrowse::FrmBrowse(Application& app)
       LabelBrowseBack(*this, L"LabelBrowseBack", L"Add Item :"),
       app_(app) {
     Move(0, 0, BrowseWidth, BrowseHeight);
+    SetWindowWaitsForShow(true);
     Layout();
     WireEvents();
 }

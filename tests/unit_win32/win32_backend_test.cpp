@@ -413,3 +413,36 @@ TEST_F(Win32BackendTest, TabMovesTheFocusToTheNextControlAndBack) {
 }
 
 }  // namespace
+
+TEST_F(Win32BackendTest, AFormWhoseWindowWaitsForItsShowingHasNoneUntilShownThenShowsItsState) {
+    TestForm pane;
+    pane.SetCaption(L"QuillstartWaitingPane");
+    pane.SetWindowWaitsForShow(true);
+    pane.SetBackend(&backend);
+    pane.Load();
+    EXPECT_EQ(backend.WindowOf(pane), nullptr);
+    EXPECT_EQ(::FindWindowW(nullptr, L"QuillstartWaitingPane"), nullptr);
+    pane.Box.SetText(L"written while it had no window");
+    pane.Show();
+    const HWND shown = backend.WindowOf(pane);
+    ASSERT_NE(shown, nullptr);
+    EXPECT_TRUE(::IsWindowVisible(shown));
+    const HWND box = ::FindWindowExW(shown, nullptr, L"EDIT", nullptr);
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(TextOf(box), L"written while it had no window");
+    pane.Unload();
+    EXPECT_FALSE(::IsWindow(shown));
+}
+
+TEST_F(Win32BackendTest, AWaitingFormUnloadedBeforeItsShowingLeavesNothingBehind) {
+    TestForm pane;
+    pane.SetWindowWaitsForShow(true);
+    pane.SetBackend(&backend);
+    pane.Load();
+    pane.Unload();
+    pane.Load();
+    EXPECT_EQ(backend.WindowOf(pane), nullptr);
+    pane.Show();
+    EXPECT_NE(backend.WindowOf(pane), nullptr);
+    pane.Unload();
+}
