@@ -3,9 +3,13 @@
 // create the process until a visible top-level window of that process with
 // the given title exists; then reads the process's working set at that
 // moment, ends the process and waits for it to exit.
-// Usage: startwait <runs> <program file> <window title>
-// Prints "run <i>: <ms> ms, working set <MB> MB" for each run, then
-// "median: <ms> ms" and "working set: <MB> MB" (the median of the runs).
+// With "ready" after the title it then types one character into the
+// window's first visible text box and waits until the box shows it: the time
+// until the program takes its first keystroke, and the working set then.
+// Usage: startwait <runs> <program file> <window title> [ready]
+// Prints "run <i>: <ms> ms, working set <MB> MB" for each run (with
+// "ready <ms> ms" when asked), then "median: <ms> ms", "ready: <ms> ms" and
+// "working set: <MB> MB" (the medians of the runs).
 #include <windows.h>
 
 #include <psapi.h>
@@ -23,6 +27,7 @@ struct Wanted {
     DWORD pid;
     const wchar_t* title;
     bool found = false;
+    HWND window = nullptr;
 };
 
 BOOL CALLBACK Visit(HWND top, LPARAM param) {
@@ -34,7 +39,26 @@ BOOL CALLBACK Visit(HWND top, LPARAM param) {
     GetWindowTextW(top, title, static_cast<int>(std::size(title)));
     if (std::wcscmp(title, wanted->title) != 0) return TRUE;
     wanted->found = true;
+    wanted->window = top;
     return FALSE;
+}
+
+BOOL CALLBACK FindTextBox(HWND child, LPARAM param) {
+    wchar_t kind[32] = {};
+    GetClassNameW(child, kind, static_cast<int>(std::size(kind)));
+    if (_wcsicmp(kind, L"Edit") != 0 || !IsWindowVisible(child)) return TRUE;
+    *reinterpret_cast<HWND*>(param) = child;
+    return FALSE;
+}
+
+// The text of a window of another process, asked through its own thread,
+// which answers only between two of its messages.
+std::wstring TextOf(HWND window) {
+    wchar_t text[512] = {};
+    DWORD_PTR copied = 0;
+    SendMessageTimeoutW(window, WM_GETTEXT, std::size(text), reinterpret_cast<LPARAM>(text), SMTO_BLOCK, 30000,
+                        &copied);
+    return text;
 }
 
 class Process {
@@ -76,6 +100,7 @@ double Seconds(LARGE_INTEGER from, LARGE_INTEGER to, LARGE_INTEGER frequency) {
 
 struct Measured {
     double ms = -1;  // to the visible window; negative when it did not appear within 30 seconds
+    double readyMs = -1;  // to the first keystroke taken; negative when not asked or not taken
     double workingSetMB = -1;
 };
 
@@ -85,7 +110,24 @@ double Median(std::vector<double> values) {
     return n % 2 == 1 ? values[n / 2] : (values[n / 2 - 1] + values[n / 2]) / 2.0;
 }
 
-Measured MeasureOnce(const std::wstring& program, const std::wstring& folder, const wchar_t* title) {
+// Types one character into the window's text box and waits until the box
+// shows a change; the time then, or a negative number.
+double TimeToFirstKeystroke(HWND window, LARGE_INTEGER start, LARGE_INTEGER frequency) {
+    HWND box = nullptr;
+    EnumChildWindows(window, FindTextBox, reinterpret_cast<LPARAM>(&box));
+    if (box == nullptr) return -1;
+    const std::wstring before = TextOf(box);
+    PostMessageW(box, WM_CHAR, L'q', 1);
+    for (;;) {
+        LARGE_INTEGER now;
+        QueryPerformanceCounter(&now);
+        if (TextOf(box) != before) return Seconds(start, now, frequency) * 1000.0;
+        if (Seconds(start, now, frequency) > 30.0) return -1;
+        Sleep(1);
+    }
+}
+
+Measured MeasureOnce(const std::wstring& program, const std::wstring& folder, const wchar_t* title, bool ready) {
     LARGE_INTEGER frequency;
     LARGE_INTEGER start;
     QueryPerformanceFrequency(&frequency);
@@ -97,7 +139,12 @@ Measured MeasureOnce(const std::wstring& program, const std::wstring& folder, co
         EnumWindows(Visit, reinterpret_cast<LPARAM>(&wanted));
         LARGE_INTEGER now;
         QueryPerformanceCounter(&now);
-        if (wanted.found) return {Seconds(start, now, frequency) * 1000.0, process.WorkingSetMB()};
+        if (wanted.found && !ready) return {Seconds(start, now, frequency) * 1000.0, -1, process.WorkingSetMB()};
+        if (wanted.found) {
+            const double visible = Seconds(start, now, frequency) * 1000.0;
+            const double taken = TimeToFirstKeystroke(wanted.window, start, frequency);
+            return {visible, taken, process.WorkingSetMB()};
+        }
         if (Seconds(start, now, frequency) > 30.0) return {};
         Sleep(1);
     }
@@ -106,8 +153,9 @@ Measured MeasureOnce(const std::wstring& program, const std::wstring& folder, co
 }  // namespace
 
 int wmain(int argc, wchar_t** argv) {
-    if (argc != 4) {
-        std::fputs("usage: startwait <runs> <program file> <window title>\n", stderr);
+    const bool ready = argc == 5 && std::wcscmp(argv[4], L"ready") == 0;
+    if (argc != 4 && !ready) {
+        std::fputs("usage: startwait <runs> <program file> <window title> [ready]\n", stderr);
         return 2;
     }
     const int runs = std::max(1, _wtoi(argv[1]));
@@ -116,20 +164,29 @@ int wmain(int argc, wchar_t** argv) {
     const std::wstring folder = slash == std::wstring::npos ? L"." : program.substr(0, slash);
 
     std::vector<double> times;
+    std::vector<double> readyTimes;
     std::vector<double> workingSets;
     for (int i = 1; i <= runs; ++i) {
-        const Measured run = MeasureOnce(program, folder, argv[3]);
+        const Measured run = MeasureOnce(program, folder, argv[3], ready);
         if (run.ms < 0) {
             std::printf("run %d: no window\n", i);
             return 1;
         }
-        std::printf("run %d: %.1f ms, working set %.1f MB\n", i, run.ms, run.workingSetMB);
+        if (ready && run.readyMs < 0) {
+            std::printf("run %d: the keystroke was not taken\n", i);
+            return 1;
+        }
+        std::printf("run %d: %.1f ms", i, run.ms);
+        if (ready) std::printf(", ready %.1f ms", run.readyMs);
+        std::printf(", working set %.1f MB\n", run.workingSetMB);
         std::fflush(stdout);
         times.push_back(run.ms);
+        readyTimes.push_back(run.readyMs);
         workingSets.push_back(run.workingSetMB);
         Sleep(300);
     }
     std::printf("median: %.1f ms\n", Median(times));
+    if (ready) std::printf("ready: %.1f ms\n", Median(readyTimes));
     std::printf("working set: %.1f MB\n", Median(workingSets));
     return 0;
 }

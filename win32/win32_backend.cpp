@@ -28,6 +28,11 @@ std::vector<HWND> OtherEnabledWindows(HWND except) {
     return search.found;
 }
 
+// Messages that only draw: they may go on while input waits for the work.
+bool OnlyPaints(UINT message) {
+    return message == WM_PAINT || message == WM_NCPAINT || message == WM_ERASEBKGND || message == WM_SYNCPAINT;
+}
+
 }  // namespace
 
 Win32Backend::Win32Backend(HINSTANCE instance) : instance_(instance) { FormWindow::RegisterClasses(instance); }
@@ -82,9 +87,26 @@ bool Win32Backend::MoveFocusByKey(const MSG& message) const {
     return true;
 }
 
+void Win32Backend::RunBeforeInput(std::function<void()> work) { pendingWork_ = std::move(work); }
+
+std::function<void()> Win32Backend::PendingWorkWaker() {
+    return [thread = ::GetCurrentThreadId()] { ::PostThreadMessageW(thread, WM_NULL, 0, 0); };
+}
+
+void Win32Backend::RunPendingWork() {
+    // What is on screen is drawn before the wait, whatever came first.
+    for (const auto& entry : windows_) {
+        if (::IsWindowVisible(entry.second->Handle())) ::UpdateWindow(entry.second->Handle());
+    }
+    const std::function<void()> work = std::move(pendingWork_);
+    pendingWork_ = nullptr;
+    work();
+}
+
 bool Win32Backend::PumpOne(MSG& message) {
     const BOOL got = ::GetMessageW(&message, nullptr, 0, 0);
     if (got == 0 || got == -1) return false;
+    if (pendingWork_ && !OnlyPaints(message.message)) RunPendingWork();
     if (MoveFocusByKey(message)) return true;
     ::TranslateMessage(&message);
     ::DispatchMessageW(&message);

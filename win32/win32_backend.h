@@ -2,6 +2,7 @@
 // Real windows for the program's forms, and the message loops.
 #include <windows.h>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -24,6 +25,10 @@ public:
     void FormShowing(ui::Form& form) override;
     void FormUnloaded(ui::Form& form) override;
     void RunModal(ui::Form& form) override;
+    // The work runs at the first message that does more than paint; the
+    // waker posts such a message to this thread.
+    void RunBeforeInput(std::function<void()> work) override;
+    std::function<void()> PendingWorkWaker() override;
 
     // The window of a loaded form; null when it has none.
     HWND WindowOf(const ui::Form& form) const;
@@ -41,6 +46,8 @@ private:
     bool PumpOne(MSG& message);
     // Frees the windows of forms unloaded while their own messages ran.
     void ReleaseUnloaded();
+    // Draws the visible windows, then runs the work input waits for.
+    void RunPendingWork();
 
     HINSTANCE instance_;
     std::map<const ui::Form*, std::unique_ptr<FormWindow>> windows_;
@@ -50,6 +57,7 @@ private:
     // How many modal loops run; unloaded windows are freed only outside them,
     // when no window procedure of theirs can still be on the stack.
     int modalDepth_ = 0;
+    std::function<void()> pendingWork_;
 };
 
 }  // namespace qs::win

@@ -1,15 +1,20 @@
 #include "common/application.h"
 
+#include "data/list_load_pending.h"
+
 namespace qs {
 
 Application::Application(System& system) : sys(system), frmMain(*this), frmBrowse(*this), frmChoose(*this), frmMessage(*this) {}
 
-void Application::AttachBackend(ui::Backend* backend) {
-    frmHid.SetBackend(backend);
-    frmMain.SetBackend(backend);
-    frmBrowse.SetBackend(backend);
-    frmChoose.SetBackend(backend);
-    frmMessage.SetBackend(backend);
+Application::~Application() = default;
+
+void Application::AttachBackend(ui::Backend* windows) {
+    backend = windows;
+    frmHid.SetBackend(windows);
+    frmMain.SetBackend(windows);
+    frmBrowse.SetBackend(windows);
+    frmChoose.SetBackend(windows);
+    frmMessage.SetBackend(windows);
 }
 
 }  // namespace qs

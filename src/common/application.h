@@ -2,6 +2,7 @@
 // The program's process-wide state, one instance per run, reached by every
 // window and routine by reference. Each test builds its own.
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -24,16 +25,20 @@ namespace qs {
 namespace ui {
 class Backend;
 }
+struct PendingListLoad;
 
 struct Application {
     explicit Application(System& system);
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
+    ~Application();
 
     // Gives every form the window system to show itself with.
     void AttachBackend(ui::Backend* backend);
 
     System& sys;
+    // The window system, or none when the forms live in memory only.
+    ui::Backend* backend = nullptr;
 
     // Command state.
     std::wstring MessageToShow;
@@ -74,6 +79,9 @@ struct Application {
     FrmBrowse frmBrowse;
     FrmChoose frmChoose;
     FrmMessage frmMessage;
+
+    // The list load whose target tests are still running, if any.
+    std::unique_ptr<PendingListLoad> pendingListLoad;
 };
 
 }  // namespace qs

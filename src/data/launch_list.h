@@ -25,8 +25,14 @@ void ActionLaunchListSave(Application& app, std::int16_t group, std::int16_t las
 void ActionLaunchListSaveUSB(Application& app, const std::wstring& group, std::int16_t lastIndex);
 
 // The list part of frmChoose's load: the computer's five lists in group
-// order, then, on a flash drive, the flash drive's three.
+// order, then, on a flash drive, the flash drive's three. Files are read and
+// their failures reported at once; the File, Folder and Program targets are
+// tested on threads of their own, and their records join the lists when
+// LaunchListSettle runs, which the window system does before any input.
 void LaunchListLoad(Application& app);
+// Waits for the load's target tests and adds the records that passed, file
+// by file in the load's order; does nothing when no load waits.
+void LaunchListSettle(Application& app);
 
 // The list parts of the save at exit, in the order the exit runs them:
 // on a flash drive, count the flash-side lists; (the flash drive's record is

@@ -1,6 +1,8 @@
 #pragma once
 // What a window system provides to the forms: real windows for a loaded form
 // and a modal loop. With no backend a form lives in memory only.
+#include <functional>
+
 namespace qs::ui {
 
 class Form;
@@ -18,6 +20,15 @@ public:
     // Runs until the form is hidden or unloaded, keeping every other event
     // (timers included) flowing, while the other windows take no input.
     virtual void RunModal(Form& form) = 0;
+    // Work the forms' input must wait for, such as lists still being filled:
+    // the windows may paint meanwhile, but the work runs before any other
+    // message reaches them, or as soon as the waker says it can. Where no
+    // window system runs, it runs at once.
+    virtual void RunBeforeInput(std::function<void()> work) { work(); }
+    // A call that tells the window thread, from any thread, that the work
+    // given to RunBeforeInput can run now; it holds nothing of the backend,
+    // so it may outlive it. Empty where there is nobody to wake.
+    virtual std::function<void()> PendingWorkWaker() { return {}; }
 };
 
 }  // namespace qs::ui

@@ -46,6 +46,9 @@ void FrmMain::FormLoad() {
 }
 
 void FrmMain::FormUnload() {
+    // An end of the session may come before the lists are whole; the save
+    // must never write half of them.
+    LaunchListSettle(app_);
     // The position is kept in 16 bits; a bar placed beyond their reach keeps
     // the last position that fitted rather than losing the whole save.
     if (Left() >= INT16_MIN && Left() <= INT16_MAX && Top() >= INT16_MIN && Top() <= INT16_MAX) {

@@ -69,4 +69,20 @@ DialogBackend::Reply TypeNameAndEnter(int index, std::wstring keys) {
     };
 }
 
+void DialogBackend::RunBeforeInput(std::function<void()> work) {
+    if (holdInputWork) {
+        heldWork_ = std::move(work);
+    } else {
+        work();
+    }
+}
+
+bool DialogBackend::RunHeldWork() {
+    if (!heldWork_) return false;
+    const std::function<void()> work = std::move(heldWork_);
+    heldWork_ = nullptr;
+    work();
+    return true;
+}
+
 }  // namespace qs::test

@@ -45,6 +45,12 @@ public:
     void FormLoaded(ui::Form&) override {}
     void FormUnloaded(ui::Form&) override {}
     void RunModal(ui::Form& form) override;
+    // Runs work for input at once, as a program with no pending input would,
+    // unless the test holds it to look at the program before it runs.
+    void RunBeforeInput(std::function<void()> work) override;
+    bool holdInputWork = false;
+    // Runs the held work, as the first input would; false when none waits.
+    bool RunHeldWork();
 
     // Queues the answer to the next dialog shown.
     void Answer(Reply reply) { replies_.push_back(std::move(reply)); }
@@ -56,6 +62,7 @@ private:
 
     Application& app_;
     std::deque<Reply> replies_;
+    std::function<void()> heldWork_;
 };
 
 // Scripted answers.

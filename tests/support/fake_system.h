@@ -2,6 +2,7 @@
 // The operating system as the unit tests see it: drive letters mapped onto
 // temporary folders of the real file system, a registry in memory, and a
 // record of every launch.
+#include <atomic>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -77,8 +78,9 @@ public:
     // system compares them, as the single tests do.
     std::vector<bool> FilesExist(const std::vector<std::wstring>& paths) override;
     std::vector<bool> FoldersExist(const std::vector<std::wstring>& paths) override;
-    // How many folder listings the bulk tests have made.
-    int folderListings = 0;
+    // How many folder listings the bulk tests have made, counted atomically:
+    // the list load tests its targets on threads of its own.
+    std::atomic<int> folderListings = 0;
     void CreateFolder(const std::wstring& path) override;
     std::int32_t GetAttributes(const std::wstring& path) override;
     void DeleteFile(const std::wstring& path) override;

@@ -7,6 +7,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "dpi.h"
@@ -445,4 +446,27 @@ TEST_F(Win32BackendTest, AWaitingFormUnloadedBeforeItsShowingLeavesNothingBehind
     pane.Show();
     EXPECT_NE(backend.WindowOf(pane), nullptr);
     pane.Unload();
+}
+
+// Work that input waits for (the lists of a start) runs when the thread
+// that finished it wakes the loop, even with no input at all.
+TEST_F(Win32BackendTest, WorkForInputRunsWhenTheWakerCallsFromAnotherThread) {
+    bool ran = false;
+    backend.RunBeforeInput([&ran] { ran = true; });
+    EXPECT_FALSE(ran);
+    const std::function<void()> waker = backend.PendingWorkWaker();
+    std::thread([waker] { waker(); }).join();
+    ::PostQuitMessage(0);
+    backend.RunMessageLoop();
+    EXPECT_TRUE(ran);
+}
+
+TEST_F(Win32BackendTest, WorkForInputRunsBeforeAKeystrokeThatCameFirstIsTaken) {
+    std::wstring boxWhenRun = L"not run";
+    backend.RunBeforeInput([this, &boxWhenRun] { boxWhenRun = form.Box.Text(); });
+    ::PostMessageW(edit, WM_CHAR, L'z', 1);
+    ::PostQuitMessage(0);
+    backend.RunMessageLoop();
+    EXPECT_EQ(boxWhenRun, L"");
+    EXPECT_EQ(form.Box.Text(), L"z");
 }

@@ -1,0 +1,194 @@
+// The list load tests the File, Folder and Program targets on threads of its
+// own while the bar comes up; the records join the lists before any input
+// is taken. These tests hold that input back to look in between, and check
+// that the end is exactly what a load that waited for each file gives.
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <filesystem>
+#include <stdexcept>
+
+#include "data/launch_list.h"
+#include "data/target_tests.h"
+#include "data_setup.h"
+#include "shown_messages.h"
+
+namespace qs::test {
+namespace {
+
+using Names = std::vector<std::wstring>;
+
+// Every list of the store, in a fixed order, for comparing two runs.
+std::vector<Names> AllLists(TestApp& t) {
+    std::vector<Names> lists;
+    for (int group = 0; group < 5; ++group) {
+        lists.push_back(Entries(MergedNames(t, group)));
+        lists.push_back(Entries(MergedPaths(t, group)));
+    }
+    for (int group = 0; group < 3; ++group) {
+        lists.push_back(Entries(ComputerNames(t, group)));
+        lists.push_back(Entries(ComputerPaths(t, group)));
+        lists.push_back(Entries(FlashNames(t, group)));
+        lists.push_back(Entries(FlashPaths(t, group)));
+    }
+    return lists;
+}
+
+// A flash-drive run whose computer and flash drive both hold items of every
+// tested group, some with their targets gone, and Email and Web items.
+void SeedMixedFlashRun(TestApp& t) {
+    SetUpFlashRun(t, L'E');
+    t.sys.PutFile(L"C:\\Docs\\plan.txt");
+    t.sys.PutFile(L"E:\\Docs\\notes.txt");
+    std::filesystem::create_directories(t.sys.HostPath(L"C:\\Work"));
+    std::filesystem::create_directories(t.sys.HostPath(L"E:\\Music"));
+    t.sys.PutFile(L"C:\\Apps\\edit.exe");
+    t.sys.PutFile(L"E:\\Tools\\zip.exe");
+    const auto& p = t.app.place;
+    t.sys.PutFile(p.FileListFile, ListFileBytes({{"gone", "C:\\Docs\\gone.txt"}, {"plan", "C:\\Docs\\plan.txt"}}));
+    t.sys.PutFile(p.FileListFold, ListFileBytes({{"work", "C:\\Work"}, {"x", "C:\\Docs\\plan.txt"}}));
+    t.sys.PutFile(p.FileListProg, ListFileBytes({{"edit", "C:\\Apps\\edit.exe"}}));
+    t.sys.PutFile(p.FileListMail, ListFileBytes({{"ann", "ann@a.example"}}));
+    t.sys.PutFile(p.FileListWeb, ListFileBytes({{"site", "http://a.example"}}));
+    t.sys.PutFile(p.FileListUsbFile, ListFileBytes({{"notes", "#:\\Docs\\notes.txt"}, {"old", "#:\\old.txt"}}));
+    t.sys.PutFile(p.FileListUsbFold, ListFileBytes({{"music", "#:\\Music"}}));
+    t.sys.PutFile(p.FileListUsbProg, ListFileBytes({{"edit", "#:\\Tools\\zip.exe"}, {"zip", "#:\\Tools\\zip.exe"}}));
+    Settings& s = t.app.settings;
+    s.HDDFileLast = 1;
+    s.HDDFolderLast = 1;
+    s.HDDProgramLast = 0;
+    s.EmailLast = 0;
+    s.WebLast = 0;
+    s.USBFileLast = 1;
+    s.USBFolderLast = 0;
+    s.USBProgramLast = 1;
+}
+
+TEST(TargetTests, EachBatchIsAnsweredAsTheSingleTestsAnswerAndTheEndIsToldOnce) {
+    TestApp t;
+    t.sys.MapDrive(L'C', DriveType::Fixed);
+    t.sys.PutFile(L"C:\\a\\one.txt");
+    std::filesystem::create_directories(t.sys.HostPath(L"C:\\a\\sub"));
+    const Names paths = {L"C:\\a\\one.txt", L"C:\\a\\sub", L"C:\\a\\two.txt", L"C:\\b\\x", L"Q:\\nowhere"};
+    TargetTests tests;
+    const std::size_t files = tests.Add(0, paths);
+    const std::size_t folders = tests.Add(1, paths);
+    const std::size_t programs = tests.Add(2, paths);
+    std::atomic<int> ends = 0;
+    tests.Start(t.sys, [&ends] { ++ends; });
+    tests.Wait();
+    EXPECT_EQ(ends.load(), 1);
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        EXPECT_EQ(tests.Passes(files)[i], t.sys.FileExists(paths[i])) << i;
+        EXPECT_EQ(tests.Passes(folders)[i], t.sys.FolderExists(paths[i])) << i;
+        EXPECT_EQ(tests.Passes(programs)[i], t.sys.FileExists(paths[i])) << i;
+    }
+    EXPECT_EQ(tests.Targets(folders), paths);
+}
+
+TEST(TargetTests, NoBatchesTellTheEndAtOnce) {
+    TestApp t;
+    TargetTests tests;
+    bool ended = false;
+    tests.Start(t.sys, [&ended] { ended = true; });
+    EXPECT_TRUE(ended);
+}
+
+// A system whose bulk file test breaks, as one out of memory would.
+struct BreakingBulkSystem : FakeSystem {
+    std::vector<bool> FilesExist(const std::vector<std::wstring>&) override { throw std::runtime_error("broken"); }
+};
+
+TEST(TargetTests, ABatchWhoseSystemCallThrowsGivesTheFailureWhenItsAnswersAreAsked) {
+    BreakingBulkSystem sys;
+    sys.MapDrive(L'C', DriveType::Fixed);
+    TargetTests tests;
+    const std::size_t files = tests.Add(0, {L"C:\\a.txt"});
+    const std::size_t folders = tests.Add(1, {L"C:\\"});
+    tests.Start(sys, {});
+    tests.Wait();
+    EXPECT_THROW(tests.Passes(files), std::runtime_error);
+    EXPECT_EQ(tests.Passes(folders), std::vector<bool>{true});
+}
+
+TEST(DeferredListLoad, TestedGroupsWaitForTheFirstInputWhileEmailAndWebAreFilledAtOnce) {
+    TestApp t;
+    SeedMixedFlashRun(t);
+    t.dialogs.holdInputWork = true;
+    LaunchListLoad(t.app);
+    EXPECT_EQ(MergedNames(t, 0).ListCount(), 0);
+    EXPECT_EQ(MergedNames(t, 1).ListCount(), 0);
+    EXPECT_EQ(MergedNames(t, 2).ListCount(), 0);
+    EXPECT_EQ(FlashNames(t, 2).ListCount(), 0);
+    EXPECT_EQ(Entries(MergedNames(t, 3)), (Names{L"ann"}));
+    EXPECT_EQ(Entries(MergedNames(t, 4)), (Names{L"site"}));
+    ASSERT_TRUE(t.dialogs.RunHeldWork());
+    EXPECT_EQ(Entries(MergedNames(t, 0)), (Names{L"notes", L"plan"}));
+    EXPECT_EQ(Entries(MergedPaths(t, 1)), (Names{L"E:\\Music", L"C:\\Work"}));
+    EXPECT_EQ(Entries(MergedNames(t, 2)), (Names{L"edit", L"edit", L"zip"}));
+    EXPECT_FALSE(t.dialogs.RunHeldWork());
+}
+
+TEST(DeferredListLoad, EndsWithExactlyTheListsOfALoadThatWaitsForEachFile) {
+    TestApp waited;
+    SeedMixedFlashRun(waited);
+    LaunchListLoad(waited.app);
+    TestApp deferred;
+    SeedMixedFlashRun(deferred);
+    deferred.dialogs.holdInputWork = true;
+    LaunchListLoad(deferred.app);
+    deferred.dialogs.RunHeldWork();
+    EXPECT_EQ(AllLists(deferred), AllLists(waited));
+    // The flash drive's "edit" went in step with the computer's "edit".
+    EXPECT_EQ(Entries(MergedPaths(deferred, 2)),
+              (Names{L"E:\\Tools\\zip.exe", L"C:\\Apps\\edit.exe", L"E:\\Tools\\zip.exe"}));
+}
+
+TEST(DeferredListLoad, AFileThatBreaksOffIsReportedAtTheLoadAndItsRecordsReadJoinLater) {
+    TestApp t;
+    SetUpFixedDiskRun(t);
+    t.sys.PutFile(L"C:\\Apps\\a.exe");
+    t.sys.PutFile(t.app.place.FileListProg, ListFileBytes({{"a", "C:\\Apps\\a.exe"}}));
+    t.app.settings.HDDProgramLast = 3;
+    t.dialogs.holdInputWork = true;
+    LaunchListLoad(t.app);
+    EXPECT_EQ(BugCount(t), 1);
+    EXPECT_TRUE(BugShown(t, L"Quillstart:Bug:ActionLaunchListGet"));
+    EXPECT_EQ(MergedNames(t, 2).ListCount(), 0);
+    t.dialogs.RunHeldWork();
+    EXPECT_EQ(Entries(MergedNames(t, 2)), (Names{L"a"}));
+    EXPECT_EQ(BugCount(t), 1);
+}
+
+TEST(DeferredListLoad, TheExitSaveWaitsForTheTestsAndWritesEveryItem) {
+    TestApp t;
+    SetUpFixedDiskRun(t);
+    t.sys.PutFile(L"C:\\Apps\\a.exe");
+    t.sys.PutFile(L"C:\\Apps\\b.exe");
+    const std::string records = ListFileBytes({{"a", "C:\\Apps\\a.exe"}, {"b", "C:\\Apps\\b.exe"}});
+    t.sys.PutFile(t.app.place.FileListProg, records);
+    t.app.settings.HDDProgramLast = 1;
+    t.dialogs.holdInputWork = true;
+    LaunchListLoad(t.app);
+    // The session ends before any input came.
+    EXPECT_THROW(t.app.frmMain.Unload(), ProgramEnded);
+    EXPECT_EQ(t.sys.FileBytes(t.app.place.FileListProg), records);
+    EXPECT_EQ(t.app.settings.HDDProgramLast, 1);
+}
+
+TEST(DeferredListLoad, ASecondLoadFirstFinishesTheOneBefore) {
+    TestApp t;
+    SetUpFixedDiskRun(t);
+    t.sys.PutFile(L"C:\\Apps\\a.exe");
+    t.sys.PutFile(t.app.place.FileListProg, ListFileBytes({{"a", "C:\\Apps\\a.exe"}}));
+    t.app.settings.HDDProgramLast = 0;
+    t.dialogs.holdInputWork = true;
+    LaunchListLoad(t.app);
+    LaunchListLoad(t.app);
+    EXPECT_EQ(Entries(MergedNames(t, 2)), (Names{L"a"}));
+    t.dialogs.RunHeldWork();
+    EXPECT_EQ(Entries(MergedNames(t, 2)), (Names{L"a", L"a"}));
+}
+
+}  // namespace
+}  // namespace qs::test
