@@ -88,8 +88,8 @@ void DriveBoxWindow::OnChanged(ui::Property what) {
 
 void DriveBoxWindow::ItemInserted(std::int32_t index) {
     if (Detached() || Handle() == nullptr) return;
-    ::SendMessageW(Handle(), CB_INSERTSTRING, static_cast<WPARAM>(index),
-                   reinterpret_cast<LPARAM>(drives_.List(index).c_str()));
+    const std::wstring drive(drives_.List(index));
+    ::SendMessageW(Handle(), CB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(drive.c_str()));
 }
 
 void DriveBoxWindow::ItemRemoved(std::int32_t index) {
@@ -119,7 +119,7 @@ void DriveBoxWindow::OnCommand(WORD code) {
 }
 
 std::wstring DirBoxWindow::ItemText(std::int32_t index) const {
-    return std::wstring(static_cast<std::size_t>(dirs_.DepthAt(index)) * 3, L' ') + dirs_.List(index);
+    return std::wstring(static_cast<std::size_t>(dirs_.DepthAt(index)) * 3, L' ').append(dirs_.List(index));
 }
 
 void DirBoxWindow::OnCommand(WORD code) {

@@ -91,7 +91,7 @@ public:
 protected:
     void OnChanged(ui::Property what) override;
     // The text the window shows for an entry.
-    virtual std::wstring ItemText(std::int32_t index) const { return list_.List(index); }
+    virtual std::wstring ItemText(std::int32_t index) const { return std::wstring(list_.List(index)); }
 
 private:
     void WriteItems();

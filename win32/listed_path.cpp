@@ -43,7 +43,7 @@ std::wstring FoldAscii(const std::wstring& text) {
     return folded;
 }
 
-bool SplitListedPath(const std::wstring& path, ListedPath& out) {
+bool SplitListedPath(std::wstring_view path, ListedPath& out) {
     if (path.size() < 4 || path.size() >= MAX_PATH) return false;
     if (!IsLetter(path[0]) || path[1] != L':' || path[2] != L'\\') return false;
     for (std::size_t i = 3; i < path.size(); ++i)
@@ -51,15 +51,15 @@ bool SplitListedPath(const std::wstring& path, ListedPath& out) {
     std::size_t start = 3;
     for (;;) {
         const std::size_t slash = path.find(L'\\', start);
-        const std::wstring part = path.substr(start, slash == std::wstring::npos ? std::wstring::npos : slash - start);
+        const std::wstring part(path.substr(start, slash == std::wstring_view::npos ? std::wstring_view::npos : slash - start));
         if (!IsPlainPart(part)) return false;
         if (slash == std::wstring::npos) break;
         start = slash + 1;
     }
     const std::size_t last = path.rfind(L'\\');
-    std::wstring name = path.substr(last + 1);
+    std::wstring name(path.substr(last + 1));
     if (name.find(L'~') != std::wstring::npos || name.front() == L'.' || NamesDevice(name)) return false;
-    out.parent = path.substr(0, last);
+    out.parent = std::wstring(path.substr(0, last));
     out.name = std::move(name);
     return true;
 }

@@ -16,7 +16,7 @@ struct ListedPath {
 // part with trailing dots or blanks (Win32 strips them before the lookup), no
 // short-name tilde or leading dot in the name, no device name, nothing at or
 // past MAX_PATH. False for everything else, which takes the single test.
-bool SplitListedPath(const std::wstring& path, ListedPath& out);
+bool SplitListedPath(std::wstring_view path, ListedPath& out);
 
 // True when the text holds only 7-bit characters, whose case Windows folds
 // the same way everywhere.

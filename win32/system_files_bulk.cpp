@@ -18,7 +18,8 @@ constexpr std::size_t kTargetsWorthAListing = 4;
 
 enum class Wanted { File, Folder };
 
-bool SingleTest(Win32System& sys, const std::wstring& path, Wanted wanted) {
+bool SingleTest(Win32System& sys, std::wstring_view target, Wanted wanted) {
+    const std::wstring path(target);
     return wanted == Wanted::File ? sys.FileExists(path) : sys.FolderExists(path);
 }
 
@@ -107,7 +108,7 @@ private:
     bool otherCaseRules_ = false;
 };
 
-std::vector<bool> ExistInBulk(Win32System& sys, const std::vector<std::wstring>& paths, Wanted wanted) {
+std::vector<bool> ExistInBulk(Win32System& sys, const std::vector<std::wstring_view>& paths, Wanted wanted) {
     std::vector<bool> answers(paths.size(), false);
     std::vector<ListedPath> split(paths.size());
     // Parent folder as written -> positions of its targets.
@@ -140,11 +141,11 @@ std::vector<bool> ExistInBulk(Win32System& sys, const std::vector<std::wstring>&
 
 }  // namespace
 
-std::vector<bool> Win32System::FilesExist(const std::vector<std::wstring>& paths) {
+std::vector<bool> Win32System::FilesExist(const std::vector<std::wstring_view>& paths) {
     return ExistInBulk(*this, paths, Wanted::File);
 }
 
-std::vector<bool> Win32System::FoldersExist(const std::vector<std::wstring>& paths) {
+std::vector<bool> Win32System::FoldersExist(const std::vector<std::wstring_view>& paths) {
     return ExistInBulk(*this, paths, Wanted::Folder);
 }
 

@@ -25,8 +25,8 @@ public:
     DriveInfo GetDrive(const std::wstring& driveName) override;
     bool FileExists(const std::wstring& path) override;
     bool FolderExists(const std::wstring& path) override;
-    std::vector<bool> FilesExist(const std::vector<std::wstring>& paths) override;
-    std::vector<bool> FoldersExist(const std::vector<std::wstring>& paths) override;
+    std::vector<bool> FilesExist(const std::vector<std::wstring_view>& paths) override;
+    std::vector<bool> FoldersExist(const std::vector<std::wstring_view>& paths) override;
     void CreateFolder(const std::wstring& path) override;
     std::int32_t GetAttributes(const std::wstring& path) override;
     void DeleteFile(const std::wstring& path) override;

@@ -11,7 +11,7 @@ namespace qs {
 
 namespace {
 
-bool HasPrefix(const std::wstring& name, const std::wstring& lowerTyped) {
+bool HasPrefix(std::wstring_view name, const std::wstring& lowerTyped) {
     if (name.size() < lowerTyped.size()) return false;
     for (std::size_t k = 0; k < lowerTyped.size(); ++k) {
         if (LowerChar(name[k]) != lowerTyped[k]) return false;
@@ -50,7 +50,7 @@ void ActionFindLaunchName(Application& app, std::wstring& code, std::wstring& ty
         typed = LCase(typed);
         const std::int32_t i = FirstNameWithPrefix(combo, typed, lastIndex);
         if (i < 0) return;
-        const std::wstring name = combo.List(i);
+        const std::wstring name(combo.List(i));
         app.frmMain.SetTextMainQuietly(code + name);
         app.PendingItemIndex = ToInt16(i);
         SelectTail(app, typed.size(), name.size());

@@ -46,17 +46,19 @@ wchar_t UpperChar(wchar_t c) {
     return c;
 }
 
-std::wstring LCase(std::wstring text) {
-    for (auto& c : text) c = LowerChar(c);
-    return text;
+std::wstring LCase(std::wstring_view text) {
+    std::wstring lower(text);
+    for (auto& c : lower) c = LowerChar(c);
+    return lower;
 }
 
-std::wstring UCase(std::wstring text) {
-    for (auto& c : text) c = UpperChar(c);
-    return text;
+std::wstring UCase(std::wstring_view text) {
+    std::wstring upper(text);
+    for (auto& c : upper) c = UpperChar(c);
+    return upper;
 }
 
-int CompareNoCase(const std::wstring& a, const std::wstring& b) {
+int CompareNoCase(std::wstring_view a, std::wstring_view b) {
     const std::size_t n = a.size() < b.size() ? a.size() : b.size();
     for (std::size_t i = 0; i < n; ++i) {
         const wchar_t x = LowerChar(a[i]);

@@ -2,16 +2,17 @@
 // The program's one case rule: a fixed table, independent of any locale, used
 // for every lower-casing, case-insensitive compare and name-list sort.
 #include <string>
+#include <string_view>
 
 namespace qs {
 
 wchar_t LowerChar(wchar_t c);
 wchar_t UpperChar(wchar_t c);
-std::wstring LCase(std::wstring text);
-std::wstring UCase(std::wstring text);
+std::wstring LCase(std::wstring_view text);
+std::wstring UCase(std::wstring_view text);
 
 // <0, 0, >0 as a sorted name list orders a and b: by the lower-cased text,
 // code unit by code unit; a prefix sorts before the longer text.
-int CompareNoCase(const std::wstring& a, const std::wstring& b);
+int CompareNoCase(std::wstring_view a, std::wstring_view b);
 
 }  // namespace qs

@@ -35,8 +35,8 @@ void AddItemInStep(ui::ListBox& names, ui::ListBox& paths, const ui::SharedText&
 void LaunchListRemoveItem(Application& app, std::int16_t group, std::int32_t position) {
     auto& names = *app.frmChoose.ComboListItemName.at(Slot(group));
     auto& paths = *app.frmChoose.ComboListItemPath.at(Slot(group));
-    const std::wstring name = names.List(position);
-    const std::wstring path = paths.List(position);
+    const std::wstring name(names.List(position));
+    const std::wstring path(paths.List(position));
     const bool flash = IsFlashSideItem(app, group, path);
     names.RemoveItem(position);
     paths.RemoveItem(position);

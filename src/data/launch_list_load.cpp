@@ -24,7 +24,7 @@ ReadRecords ReadComputerSide(RecordReader& reader, std::int16_t lastIndex) {
     try {
         for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
             ui::SharedText name(reader.ReadString());
-            std::wstring target = reader.ReadString();
+            ui::SharedText target(reader.ReadString());
             records.names.push_back(std::move(name));
             records.targets.push_back(std::move(target));
         }
@@ -40,11 +40,11 @@ ReadRecords ReadFlashSide(const Application& app, RecordReader& reader, std::int
     ReadRecords records;
     try {
         for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
-            std::wstring name = reader.ReadString();
+            const std::wstring name = reader.ReadString();
             const std::wstring stored = reader.ReadString();
             if (name.empty() || stored.empty()) break;
-            records.names.emplace_back(std::move(name));
-            records.targets.push_back(FromStoredFlashTarget(app, stored));
+            records.names.emplace_back(name);
+            records.targets.emplace_back(FromStoredFlashTarget(app, stored));
         }
     } catch (const std::exception&) {
         records.failure = std::current_exception();
@@ -69,13 +69,14 @@ const wchar_t* LoadRoutine(bool flashSide) { return flashSide ? L"ActionLaunchLi
 // Adds a computer-side file's records to the merged lists, and File, Folder
 // and Program records to the computer's side as well; `passes` null lets
 // every record in (Email and Web URL are not tested).
-void AddComputerSide(Application& app, std::int16_t group, const std::vector<ui::SharedText>& names,
-                     std::vector<std::wstring>& targets, const std::vector<bool>* passes) {
+void AddComputerSide(Application& app, std::int16_t group, const ReadRecords& records,
+                     const std::vector<bool>* passes) {
+    const std::vector<ui::SharedText>& names = records.names;
     auto& merged = *app.frmChoose.ComboListItemName.at(Slot(group));
     auto& paths = *app.frmChoose.ComboListItemPath.at(Slot(group));
     for (std::size_t r = 0; r < names.size(); ++r) {
         if (passes != nullptr && !(*passes)[r]) continue;
-        const ui::SharedText target(std::move(targets[r]));
+        const ui::SharedText& target = records.targets[r];
         // The file is written from a sorted list, so appending the target
         // keeps it beside its name.
         merged.AddItem(names[r]);
@@ -90,14 +91,14 @@ void AddComputerSide(Application& app, std::int16_t group, const std::vector<ui:
 // Adds a flash-side file's passing records to the flash drive's side and
 // merges them into the merged lists: in step with the names when the lists
 // already held items, appended when they were empty.
-void AddFlashSide(Application& app, std::int16_t group, const std::vector<ui::SharedText>& names,
-                  std::vector<std::wstring>& targets, const std::vector<bool>& passes) {
+void AddFlashSide(Application& app, std::int16_t group, const ReadRecords& records, const std::vector<bool>& passes) {
+    const std::vector<ui::SharedText>& names = records.names;
     auto& merged = *app.frmChoose.ComboListItemName.at(Slot(group));
     auto& paths = *app.frmChoose.ComboListItemPath.at(Slot(group));
     const bool mergedHeldItems = merged.ListCount() > 0;
     for (std::size_t r = 0; r < names.size(); ++r) {
         if (!passes[r]) continue;
-        const ui::SharedText target(std::move(targets[r]));
+        const ui::SharedText& target = records.targets[r];
         app.frmHid.ComboUSBItemName.at(Slot(group))->AddItem(names[r]);
         app.frmHid.ComboUSBItemPath.at(Slot(group))->AddItem(target);
         if (mergedHeldItems) {
@@ -117,9 +118,10 @@ void QueueTestedFile(Application& app, PendingListLoad& load, std::int16_t group
     try {
         std::optional<ReadRecords> records = ReadListFile(app, group, lastIndex, flashSide);
         if (!records) return;
-        const std::size_t batch = load.tests.Add(group, std::move(records->targets));
-        load.files.push_back({group, flashSide, std::move(records->names), records->failure, batch});
-        RaiseFailure(records->failure);
+        const std::size_t batch = load.tests.Add(group, TargetViews(records->targets));
+        const std::exception_ptr failure = records->failure;
+        load.files.push_back({group, flashSide, std::move(*records), batch});
+        RaiseFailure(failure);
     } catch (const std::exception&) {
         ReportBug(app, LoadRoutine(flashSide));
     }
@@ -127,13 +129,21 @@ void QueueTestedFile(Application& app, PendingListLoad& load, std::int16_t group
 
 }  // namespace
 
+std::vector<std::wstring_view> TargetViews(const std::vector<ui::SharedText>& targets) {
+    std::vector<std::wstring_view> views;
+    views.reserve(targets.size());
+    for (const ui::SharedText& target : targets) views.push_back(target.Text());
+    return views;
+}
+
 void ActionLaunchListGet(Application& app, std::int16_t group, std::int16_t lastIndex) {
     try {
         std::optional<ReadRecords> records = ReadListFile(app, group, lastIndex, false);
         if (!records) return;
         const bool tested = group < 3;
-        const std::vector<bool> passes = tested ? TargetsPass(app, group, records->targets) : std::vector<bool>();
-        AddComputerSide(app, group, records->names, records->targets, tested ? &passes : nullptr);
+        const std::vector<bool> passes =
+            tested ? TargetsPass(app, group, TargetViews(records->targets)) : std::vector<bool>();
+        AddComputerSide(app, group, *records, tested ? &passes : nullptr);
         RaiseFailure(records->failure);
     } catch (const std::exception&) {
         ReportBug(app, LoadRoutine(false));
@@ -144,8 +154,8 @@ void ActionLaunchListGetUSB(Application& app, std::int16_t group, std::int16_t l
     try {
         std::optional<ReadRecords> records = ReadListFile(app, group, lastIndex, true);
         if (!records) return;
-        const std::vector<bool> passes = TargetsPass(app, group, records->targets);
-        AddFlashSide(app, group, records->names, records->targets, passes);
+        const std::vector<bool> passes = TargetsPass(app, group, TargetViews(records->targets));
+        AddFlashSide(app, group, *records, passes);
         RaiseFailure(records->failure);
     } catch (const std::exception&) {
         ReportBug(app, LoadRoutine(true));
@@ -186,15 +196,14 @@ void LaunchListSettle(Application& app) {
     for (PendingListFile& file : load->files) {
         try {
             const std::vector<bool>& passes = load->tests.Passes(file.batch);
-            std::vector<std::wstring>& targets = load->tests.Targets(file.batch);
             if (file.flashSide) {
-                AddFlashSide(app, file.group, file.names, targets, passes);
+                AddFlashSide(app, file.group, file.records, passes);
             } else {
-                AddComputerSide(app, file.group, file.names, targets, &passes);
+                AddComputerSide(app, file.group, file.records, &passes);
             }
         } catch (const std::exception&) {
             // One report per file: a file whose reading failed has had its.
-            if (!file.failure) ReportBug(app, LoadRoutine(file.flashSide));
+            if (!file.records.failure) ReportBug(app, LoadRoutine(file.flashSide));
         }
     }
 }

@@ -56,7 +56,7 @@ void ActionLaunchListSaveUSB(Application& app, const std::wstring& group, std::i
         const ui::ListBox& paths = *app.frmHid.ComboUSBItemPath.at(Slot(g));
         writing = true;
         for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
-            const std::wstring stored = ToStoredFlashTarget(app, paths.List(i));
+            const std::wstring stored = ToStoredFlashTarget(app, std::wstring(paths.List(i)));
             writer.String(names.List(i)).String(stored).EndLine();
         }
         writing = false;

@@ -24,7 +24,7 @@ const std::wstring& FlashSideFile(const Application& app, std::int16_t group) {
     }
 }
 
-std::vector<bool> TargetsPass(Application& app, std::int16_t group, const std::vector<std::wstring>& targets) {
+std::vector<bool> TargetsPass(Application& app, std::int16_t group, const std::vector<std::wstring_view>& targets) {
     return group == 1 ? app.sys.FoldersExist(targets) : app.sys.FilesExist(targets);
 }
 

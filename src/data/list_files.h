@@ -4,6 +4,7 @@
 // targets, and the program's 16-bit loop index.
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "common/failure.h"
@@ -19,7 +20,7 @@ const std::wstring& FlashSideFile(const Application& app, std::int16_t group);
 
 // For each target, in order: FolderExists for Folder, FileExists for File and
 // Program, asked of the system in one bulk call.
-std::vector<bool> TargetsPass(Application& app, std::int16_t group, const std::vector<std::wstring>& targets);
+std::vector<bool> TargetsPass(Application& app, std::int16_t group, const std::vector<std::wstring_view>& targets);
 
 // E:\a.exe becomes #:\a.exe when E is the program's drive letter, exactly.
 std::wstring ToStoredFlashTarget(const Application& app, const std::wstring& target);

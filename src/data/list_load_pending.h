@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <exception>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "data/target_tests.h"
@@ -14,21 +15,24 @@
 namespace qs {
 
 // The records of one list file as read, names and targets side by side, and
-// the failure that ended the reading early, if any. Each name becomes one
-// shared text that the merged list and the side list both hold.
+// the failure that ended the reading early, if any. Each name and target is
+// one shared text from the start, which the merged list and the side list
+// then both hold, and which the target tests read in place.
 struct ReadRecords {
     std::vector<ui::SharedText> names;
-    std::vector<std::wstring> targets;
+    std::vector<ui::SharedText> targets;
     std::exception_ptr failure;
 };
 
-// A file whose targets have gone to the tests: its names and its failure
-// wait here, its targets in its batch.
+// The targets as the system's bulk tests take them.
+std::vector<std::wstring_view> TargetViews(const std::vector<ui::SharedText>& targets);
+
+// A file whose targets are being tested: its records wait here, and the
+// tests' batch reads its targets in place.
 struct PendingListFile {
     std::int16_t group;
     bool flashSide;
-    std::vector<ui::SharedText> names;
-    std::exception_ptr failure;
+    ReadRecords records;
     std::size_t batch;
 };
 

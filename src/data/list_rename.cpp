@@ -28,9 +28,9 @@ std::wstring ActionListRename(Application& app, std::int16_t group, const std::w
         for (std::int32_t i = 0; i < names.ListCount(); ++i) {
             if (names.List(i) == newName) return L"MessageNameAlreadyListed";
         }
-        const std::wstring path = paths.List(position);
+        const std::wstring path(paths.List(position));
         const bool flash = group < 3 && IsFlashSideItem(app, group, path);
-        const std::wstring oldName = names.List(position);
+        const std::wstring oldName(names.List(position));
         names.RemoveItem(position);
         paths.RemoveItem(position);
         AddItemInStep(names, paths, newName, path);

@@ -10,7 +10,7 @@ namespace qs {
 
 TargetTests::~TargetTests() { Wait(); }
 
-std::size_t TargetTests::Add(std::int16_t group, std::vector<std::wstring> targets) {
+std::size_t TargetTests::Add(std::int16_t group, std::vector<std::wstring_view> targets) {
     batches_.push_back({group == 1, std::move(targets), {}, nullptr});
     return batches_.size() - 1;
 }

@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <exception>
 #include <functional>
-#include <string>
+#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -26,8 +26,9 @@ public:
     ~TargetTests();
 
     // Adds one file's targets, tested as folders (group 1) or as files;
-    // returns the batch's number. Only before Start.
-    std::size_t Add(std::int16_t group, std::vector<std::wstring> targets);
+    // returns the batch's number. The texts must stay until Wait. Only
+    // before Start.
+    std::size_t Add(std::int16_t group, std::vector<std::wstring_view> targets);
     // Starts one thread per batch; `finished` is called once, on the thread
     // that ends last, when every answer is in.
     void Start(System& sys, std::function<void()> finished);
@@ -36,13 +37,11 @@ public:
     // The answers of one batch, in the order of its targets; throws what the
     // system threw while answering it. After Wait.
     const std::vector<bool>& Passes(std::size_t batch) const;
-    // The targets of one batch, for the caller to take back. After Wait.
-    std::vector<std::wstring>& Targets(std::size_t batch) { return batches_.at(batch).targets; }
 
 private:
     struct Batch {
         bool folders = false;
-        std::vector<std::wstring> targets;
+        std::vector<std::wstring_view> targets;
         std::vector<bool> passes;
         std::exception_ptr failure;
     };

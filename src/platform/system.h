@@ -100,8 +100,8 @@ public:
     // (FoldersExist) gives for paths[i], so a caller may use either road and
     // see no difference but the time taken. Neither throws where the single
     // tests do not.
-    virtual std::vector<bool> FilesExist(const std::vector<std::wstring>& paths) = 0;
-    virtual std::vector<bool> FoldersExist(const std::vector<std::wstring>& paths) = 0;
+    virtual std::vector<bool> FilesExist(const std::vector<std::wstring_view>& paths) = 0;
+    virtual std::vector<bool> FoldersExist(const std::vector<std::wstring_view>& paths) = 0;
 
     // The program's own place and the single-instance mechanism.
     virtual std::wstring ApplicationFolder() = 0;

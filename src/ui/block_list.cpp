@@ -23,7 +23,7 @@ void BlockList::ShiftStarts(std::size_t fromBlock, std::int32_t delta) {
     for (std::size_t b = fromBlock; b < starts_.size(); ++b) starts_[b] += delta;
 }
 
-const std::wstring& BlockList::At(std::int32_t index) const {
+std::wstring_view BlockList::At(std::int32_t index) const {
     std::int32_t offset = 0;
     const std::size_t block = BlockOf(index, offset);
     return blocks_[block][static_cast<std::size_t>(offset)].Text();
@@ -100,7 +100,7 @@ const std::vector<std::wstring>& BlockList::Flat() const {
         flat_.clear();
         flat_.reserve(static_cast<std::size_t>(size_));
         for (const auto& entries : blocks_)
-            for (const SharedText& entry : entries) flat_.push_back(entry.Text());
+            for (const SharedText& entry : entries) flat_.emplace_back(entry.Text());
         flatValid_ = true;
     }
     return flat_;

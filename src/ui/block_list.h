@@ -5,6 +5,7 @@
 // Entries are shared texts, so a string held by several lists is stored once.
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "ui/shared_text.h"
@@ -15,7 +16,7 @@ class BlockList {
 public:
     std::int32_t Size() const { return size_; }
     // Position must lie in 0..Size()-1 (0..Size() for Insert).
-    const std::wstring& At(std::int32_t index) const;
+    std::wstring_view At(std::int32_t index) const;
     void Set(std::int32_t index, const std::wstring& item);
     void Insert(std::int32_t index, const std::wstring& item);
     void Insert(std::int32_t index, const SharedText& item);

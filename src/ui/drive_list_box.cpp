@@ -29,7 +29,7 @@ void DriveListBox::Refresh() {
     if (at >= 0) SetListIndex(at);
 }
 
-std::wstring DriveListBox::Drive() const { return ListIndex() < 0 ? L"" : List(ListIndex()); }
+std::wstring DriveListBox::Drive() const { return ListIndex() < 0 ? L"" : std::wstring(List(ListIndex())); }
 
 std::int32_t DriveListBox::IndexOfLetter(wchar_t letter) const {
     for (std::size_t i = 0; i < drives_.size(); ++i) {

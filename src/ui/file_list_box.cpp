@@ -63,6 +63,6 @@ void FileListBox::Refresh() {
     }
 }
 
-std::wstring FileListBox::FileName() const { return ListIndex() < 0 ? L"" : List(ListIndex()); }
+std::wstring FileListBox::FileName() const { return ListIndex() < 0 ? L"" : std::wstring(List(ListIndex())); }
 
 }  // namespace qs::ui

@@ -11,7 +11,7 @@ ListBox::ListBox(Form& owner, std::wstring name, bool sorted)
 ListBox::ListBox(Form& owner, ControlKind kind, std::wstring name, bool sorted)
     : Control(owner, kind, std::move(name)), sorted_(sorted) {}
 
-std::int32_t ListBox::SortedPlace(const std::wstring& item) const {
+std::int32_t ListBox::SortedPlace(std::wstring_view item) const {
     // Items mostly come in sorted order, from files written sorted.
     const std::int32_t count = ListCount();
     if (count == 0 || CompareNoCase(item, items_.At(count - 1)) >= 0) return count;
@@ -29,7 +29,7 @@ std::int32_t ListBox::SortedPlace(const std::wstring& item) const {
     return low;
 }
 
-std::int32_t ListBox::FirstNotBelow(const std::wstring& item, std::int32_t end) const {
+std::int32_t ListBox::FirstNotBelow(std::wstring_view item, std::int32_t end) const {
     std::int32_t low = 0;
     std::int32_t high = end;
     while (low < high) {
@@ -43,7 +43,7 @@ std::int32_t ListBox::FirstNotBelow(const std::wstring& item, std::int32_t end) 
     return low;
 }
 
-std::int32_t ListBox::FindExact(const std::wstring& item) const {
+std::int32_t ListBox::FindExact(std::wstring_view item) const {
     if (!sorted_) {
         for (std::int32_t i = 0; i < ListCount(); ++i)
             if (items_.At(i) == item) return i;
@@ -53,7 +53,7 @@ std::int32_t ListBox::FindExact(const std::wstring& item) const {
     // match is one of them, so the first exact match of a scan from the top
     // is the first exact match within that run.
     for (std::int32_t i = FirstNotBelow(item, ListCount()); i < ListCount(); ++i) {
-        const std::wstring& entry = items_.At(i);
+        const std::wstring_view entry = items_.At(i);
         if (entry == item) return i;
         if (CompareNoCase(entry, item) != 0) break;
     }
@@ -100,7 +100,7 @@ void ListBox::Clear() {
     if (ControlPeer* peer = Peer()) peer->ItemsCleared();
 }
 
-const std::wstring& ListBox::List(std::int32_t index) const {
+std::wstring_view ListBox::List(std::int32_t index) const {
     if (index < 0 || index >= ListCount()) throw SubscriptOutOfRange();
     return items_.At(index);
 }

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "ui/block_list.h"
@@ -30,7 +31,7 @@ public:
     void Clear();
 
     // Throws SubscriptOutOfRange outside 0..ListCount-1.
-    const std::wstring& List(std::int32_t index) const;
+    std::wstring_view List(std::int32_t index) const;
     void SetList(std::int32_t index, const std::wstring& item);
     std::int32_t ListCount() const { return items_.Size(); }
     // All entries in order; read it again after the list changes.
@@ -38,10 +39,10 @@ public:
 
     // Position of the first entry, from the top, exactly equal to `item`
     // (case-sensitive); -1 when there is none.
-    std::int32_t FindExact(const std::wstring& item) const;
+    std::int32_t FindExact(std::wstring_view item) const;
     // In a sorted list: the first position among 0..end-1 whose entry does not
     // sort before `item` by the case rule; `end` when there is none.
-    std::int32_t FirstNotBelow(const std::wstring& item, std::int32_t end) const;
+    std::int32_t FirstNotBelow(std::wstring_view item, std::int32_t end) const;
 
     // -1 when nothing is selected; setting it fires Click.
     std::int32_t ListIndex() const { return listIndex_; }
@@ -57,7 +58,7 @@ protected:
     ListBox(Form& owner, ControlKind kind, std::wstring name, bool sorted);
 
 private:
-    std::int32_t SortedPlace(const std::wstring& item) const;
+    std::int32_t SortedPlace(std::wstring_view item) const;
     void Inserted(std::int32_t index);
 
     BlockList items_;

@@ -44,7 +44,7 @@ bool HoldsQuote(const qs::ui::ListBox& list) {
 
 std::vector<std::wstring> Entries(const qs::ui::ListBox& list) {
     std::vector<std::wstring> out;
-    for (std::int32_t i = 0; i < list.ListCount(); ++i) out.push_back(list.List(i));
+    for (std::int32_t i = 0; i < list.ListCount(); ++i) out.emplace_back(list.List(i));
     return out;
 }
 

@@ -32,14 +32,14 @@ public:
     DriveInfo GetDrive(const std::wstring& name) override { return {name.substr(0, 1), name, DriveType::Fixed}; }
     bool FileExists(const std::wstring& path) override { return files.count(path) > 0 || exists(path); }
     bool FolderExists(const std::wstring& path) override { return exists(path); }
-    std::vector<bool> FilesExist(const std::vector<std::wstring>& paths) override {
+    std::vector<bool> FilesExist(const std::vector<std::wstring_view>& paths) override {
         std::vector<bool> answers;
-        for (const std::wstring& path : paths) answers.push_back(FileExists(path));
+        for (std::wstring_view path : paths) answers.push_back(FileExists(std::wstring(path)));
         return answers;
     }
-    std::vector<bool> FoldersExist(const std::vector<std::wstring>& paths) override {
+    std::vector<bool> FoldersExist(const std::vector<std::wstring_view>& paths) override {
         std::vector<bool> answers;
-        for (const std::wstring& path : paths) answers.push_back(FolderExists(path));
+        for (std::wstring_view path : paths) answers.push_back(FolderExists(std::wstring(path)));
         return answers;
     }
     void CreateFolder(const std::wstring&) override {}

@@ -58,7 +58,7 @@ std::string ListFileBytes(const std::vector<std::pair<std::string, std::string>>
 
 std::vector<std::wstring> Entries(const ui::ListBox& list) {
     std::vector<std::wstring> out;
-    for (std::int32_t i = 0; i < list.ListCount(); ++i) out.push_back(list.List(i));
+    for (std::int32_t i = 0; i < list.ListCount(); ++i) out.emplace_back(list.List(i));
     return out;
 }
 

@@ -76,8 +76,8 @@ public:
     bool FolderExists(const std::wstring& path) override;
     // Each parent folder is listed once; names compare as the host file
     // system compares them, as the single tests do.
-    std::vector<bool> FilesExist(const std::vector<std::wstring>& paths) override;
-    std::vector<bool> FoldersExist(const std::vector<std::wstring>& paths) override;
+    std::vector<bool> FilesExist(const std::vector<std::wstring_view>& paths) override;
+    std::vector<bool> FoldersExist(const std::vector<std::wstring_view>& paths) override;
     // How many folder listings the bulk tests have made, counted atomically:
     // the list load tests its targets on threads of its own.
     std::atomic<int> folderListings = 0;
@@ -143,7 +143,7 @@ public:
 
 private:
     enum class EntryKind { File, Folder };
-    std::vector<bool> ExistInBulk(const std::vector<std::wstring>& paths, EntryKind kind);
+    std::vector<bool> ExistInBulk(const std::vector<std::wstring_view>& targets, EntryKind kind);
     bool ExistsSingly(const std::wstring& path, EntryKind kind);
 
     std::filesystem::path root_;

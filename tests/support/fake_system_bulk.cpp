@@ -51,7 +51,8 @@ bool FakeSystem::ExistsSingly(const std::wstring& path, EntryKind kind) {
     return kind == EntryKind::File ? FileExists(path) : FolderExists(path);
 }
 
-std::vector<bool> FakeSystem::ExistInBulk(const std::vector<std::wstring>& paths, EntryKind kind) {
+std::vector<bool> FakeSystem::ExistInBulk(const std::vector<std::wstring_view>& targets, EntryKind kind) {
+    const std::vector<std::wstring> paths(targets.begin(), targets.end());
     std::vector<bool> answers(paths.size(), false);
     // Host parent folder -> the positions of the paths inside it.
     std::unordered_map<fs::path::string_type, std::vector<std::size_t>> byParent;
@@ -93,11 +94,11 @@ std::vector<bool> FakeSystem::ExistInBulk(const std::vector<std::wstring>& paths
     return answers;
 }
 
-std::vector<bool> FakeSystem::FilesExist(const std::vector<std::wstring>& paths) {
+std::vector<bool> FakeSystem::FilesExist(const std::vector<std::wstring_view>& paths) {
     return ExistInBulk(paths, EntryKind::File);
 }
 
-std::vector<bool> FakeSystem::FoldersExist(const std::vector<std::wstring>& paths) {
+std::vector<bool> FakeSystem::FoldersExist(const std::vector<std::wstring_view>& paths) {
     return ExistInBulk(paths, EntryKind::Folder);
 }
 

@@ -14,7 +14,7 @@ namespace {
 std::int32_t ScanFromTheTop(const qs::ui::ListBox& list, const std::wstring& typed, std::int32_t lastIndex) {
     const std::wstring lower = qs::LCase(typed);
     for (std::int32_t i = 0; i <= lastIndex; ++i) {
-        const std::wstring name = list.List(i);
+        const std::wstring name(list.List(i));
         if (name.size() >= lower.size() && qs::LCase(name.substr(0, lower.size())) == lower) return i;
     }
     return -1;

@@ -20,7 +20,7 @@ TEST(SharedTextLists, OneTextInTwoListsIsOneBodyUntilBothLetGo) {
     EXPECT_EQ(sorted.AddItem(text), 0);
     EXPECT_EQ(plain.AddItem(text, 0), 0);
     EXPECT_EQ(text.Holders(), 3);
-    EXPECT_EQ(&sorted.List(0), &plain.List(0));
+    EXPECT_EQ(sorted.List(0).data(), plain.List(0).data());
     EXPECT_EQ(sorted.List(0), L"alpha");
     sorted.RemoveItem(0);
     EXPECT_EQ(text.Holders(), 2);
@@ -52,8 +52,8 @@ TEST(SharedTextLists, LoadStoresEachNameAndTargetOnceForTheMergedAndTheSideLists
     LaunchListLoad(t.app);
     ASSERT_EQ(MergedNames(t, 2).ListCount(), 2);
     for (std::int32_t i = 0; i < 2; ++i) {
-        EXPECT_EQ(&MergedNames(t, 2).List(i), &ComputerNames(t, 2).List(i));
-        EXPECT_EQ(&MergedPaths(t, 2).List(i), &ComputerPaths(t, 2).List(i));
+        EXPECT_EQ(MergedNames(t, 2).List(i).data(), ComputerNames(t, 2).List(i).data());
+        EXPECT_EQ(MergedPaths(t, 2).List(i).data(), ComputerPaths(t, 2).List(i).data());
     }
 }
 
@@ -68,8 +68,8 @@ TEST(SharedTextLists, FlashLoadStoresEachNameAndTargetOnceForTheMergedAndTheFlas
     t.app.settings.USBProgramLast = 0;
     LaunchListLoad(t.app);
     ASSERT_EQ(MergedNames(t, 2).ListCount(), 2);
-    EXPECT_EQ(&MergedNames(t, 2).List(0), &FlashNames(t, 2).List(0));
-    EXPECT_EQ(&MergedPaths(t, 2).List(0), &FlashPaths(t, 2).List(0));
+    EXPECT_EQ(MergedNames(t, 2).List(0).data(), FlashNames(t, 2).List(0).data());
+    EXPECT_EQ(MergedPaths(t, 2).List(0).data(), FlashPaths(t, 2).List(0).data());
     EXPECT_EQ(MergedPaths(t, 2).List(0), L"E:\\Tools\\a.exe");
 }
 

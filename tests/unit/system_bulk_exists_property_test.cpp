@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "fake_system.h"
+#include "text_views.h"
 
 namespace qs::test {
 namespace {
@@ -82,8 +83,8 @@ TEST(BulkExistence, TestSystemAnswersInBulkAsItsSingleTestsOverRandomTrees) {
         FakeSystem sys;
         sys.MapDrive(L'D', DriveType::Removable);
         const std::vector<std::wstring> paths = RandomTree(sys, seed).Grow(30);
-        const std::vector<bool> files = sys.FilesExist(paths);
-        const std::vector<bool> folders = sys.FoldersExist(paths);
+        const std::vector<bool> files = sys.FilesExist(Views(paths));
+        const std::vector<bool> folders = sys.FoldersExist(Views(paths));
         ASSERT_EQ(files.size(), paths.size());
         ASSERT_EQ(folders.size(), paths.size());
         for (std::size_t i = 0; i < paths.size(); ++i) {
@@ -108,7 +109,7 @@ TEST(BulkExistence, EachParentFolderIsListedOnce) {
         paths.push_back(L"C:\\Docs\\d" + std::to_wstring(i) + L".txt");
     }
     const int before = sys.folderListings;
-    const std::vector<bool> answers = sys.FilesExist(paths);
+    const std::vector<bool> answers = sys.FilesExist(Views(paths));
     EXPECT_EQ(sys.folderListings - before, 2);
     for (std::size_t i = 0; i < paths.size(); ++i) EXPECT_EQ(answers[i], sys.FileExists(paths[i])) << i;
 }

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "text_views.h"
 #include "win32_system.h"
 
 namespace {
@@ -65,8 +66,8 @@ protected:
 
     // Each answer of the bulk tests against the single test of its path.
     void ExpectSameAnswers(const std::vector<std::wstring>& paths) {
-        const std::vector<bool> files = sys.FilesExist(paths);
-        const std::vector<bool> folders = sys.FoldersExist(paths);
+        const std::vector<bool> files = sys.FilesExist(qs::test::Views(paths));
+        const std::vector<bool> folders = sys.FoldersExist(qs::test::Views(paths));
         ASSERT_EQ(files.size(), paths.size());
         ASSERT_EQ(folders.size(), paths.size());
         for (std::size_t i = 0; i < paths.size(); ++i) {
