@@ -15,7 +15,7 @@ bool IsUnusualChar(wchar_t c) { return c < 32 || std::wstring_view(L"/*?\"<>|:")
 
 // The part before the first dot names a device ("NUL", "com1.txt"): the
 // system opens the device, not a file of that name.
-bool NamesDevice(const std::wstring& name) {
+bool NamesDevice(std::wstring_view name) {
     const std::wstring base = FoldAscii(name.substr(0, name.find(L'.')));
     static const std::array<std::wstring_view, 6> devices = {L"con", L"prn", L"aux", L"nul", L"conin$", L"conout$"};
     for (std::wstring_view device : devices)
@@ -23,23 +23,24 @@ bool NamesDevice(const std::wstring& name) {
     return base.size() == 4 && (base.compare(0, 3, L"com") == 0 || base.compare(0, 3, L"lpt") == 0);
 }
 
-bool IsPlainPart(const std::wstring& part) {
+bool IsPlainPart(std::wstring_view part) {
     if (part.empty() || part == L"." || part == L"..") return false;
     return part.front() != L' ' && part.back() != L' ' && part.back() != L'.';
 }
 
 }  // namespace
 
-bool IsPlainAscii(const std::wstring& text) {
+bool IsPlainAscii(std::wstring_view text) {
     for (wchar_t c : text)
         if (c > 0x7F) return false;
     return true;
 }
 
-std::wstring FoldAscii(const std::wstring& text) {
-    std::wstring folded = text;
-    for (wchar_t& c : folded)
-        if (c >= L'A' && c <= L'Z') c = static_cast<wchar_t>(c - L'A' + L'a');
+wchar_t FoldAscii(wchar_t c) { return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c; }
+
+std::wstring FoldAscii(std::wstring_view text) {
+    std::wstring folded(text);
+    for (wchar_t& c : folded) c = FoldAscii(c);
     return folded;
 }
 
@@ -51,16 +52,15 @@ bool SplitListedPath(std::wstring_view path, ListedPath& out) {
     std::size_t start = 3;
     for (;;) {
         const std::size_t slash = path.find(L'\\', start);
-        const std::wstring part(path.substr(start, slash == std::wstring_view::npos ? std::wstring_view::npos : slash - start));
-        if (!IsPlainPart(part)) return false;
-        if (slash == std::wstring::npos) break;
+        if (!IsPlainPart(path.substr(start, slash == std::wstring_view::npos ? slash : slash - start))) return false;
+        if (slash == std::wstring_view::npos) break;
         start = slash + 1;
     }
     const std::size_t last = path.rfind(L'\\');
-    std::wstring name(path.substr(last + 1));
-    if (name.find(L'~') != std::wstring::npos || name.front() == L'.' || NamesDevice(name)) return false;
-    out.parent = std::wstring(path.substr(0, last));
-    out.name = std::move(name);
+    const std::wstring_view name = path.substr(last + 1);
+    if (name.find(L'~') != std::wstring_view::npos || name.front() == L'.' || NamesDevice(name)) return false;
+    out.parent = path.substr(0, last);
+    out.name = name;
     return true;
 }
 

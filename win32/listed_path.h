@@ -2,12 +2,14 @@
 // Which paths a listing of their parent folder answers exactly as
 // GetFileAttributesW answers the path itself.
 #include <string>
+#include <string_view>
 
 namespace qs::win {
 
+// Views into the path it was split from.
 struct ListedPath {
-    std::wstring parent;  // "C:\Tools" (or "C:" for the root), as written
-    std::wstring name;    // "a.exe", as written
+    std::wstring_view parent;  // "C:\Tools" (or "C:" for the root), as written
+    std::wstring_view name;    // "a.exe", as written
 };
 
 // Splits "X:\folder\...\name" into its parent folder and name when the path
@@ -20,9 +22,10 @@ bool SplitListedPath(std::wstring_view path, ListedPath& out);
 
 // True when the text holds only 7-bit characters, whose case Windows folds
 // the same way everywhere.
-bool IsPlainAscii(const std::wstring& text);
+bool IsPlainAscii(std::wstring_view text);
 
-// The name with A-Z folded to a-z and nothing else changed.
-std::wstring FoldAscii(const std::wstring& text);
+// A character or a name with A-Z folded to a-z and nothing else changed.
+wchar_t FoldAscii(wchar_t c);
+std::wstring FoldAscii(std::wstring_view text);
 
 }  // namespace qs::win
