@@ -11,6 +11,9 @@ FrmChoose::FrmChoose(Application& app) : ui::Form(L"frmChoose", ui::FormStyle::B
         ComboListItemName[group]->SetVisible(false);
         ComboListItemPath[group]->SetVisible(false);
     }
+    // The pane's window is made when it first shows: the start only needs
+    // its lists, which live in memory.
+    SetWindowWaitsForShow(true);
     LoadEvent = [this] { LaunchListLoad(app_); };
 }
 

@@ -192,5 +192,14 @@ TEST(DeferredListLoad, ASecondLoadFirstFinishesTheOneBefore) {
     EXPECT_EQ(Entries(MergedNames(t, 2)), (Names{L"a", L"a"}));
 }
 
+// The panes that hold lists get their windows when they first show, so a
+// start with full lists makes no list window at all.
+TEST(DeferredListLoad, ThePanesThatHoldTheListsMakeTheirWindowsOnlyWhenTheyFirstShow) {
+    TestApp t;
+    EXPECT_TRUE(t.app.frmChoose.WindowWaitsForShow());
+    EXPECT_TRUE(t.app.frmBrowse.WindowWaitsForShow());
+    EXPECT_FALSE(t.app.frmMain.WindowWaitsForShow());
+}
+
 }  // namespace
 }  // namespace qs::test
