@@ -65,6 +65,17 @@ void SeedMixedFlashRun(TestApp& t) {
     s.USBProgramLast = 1;
 }
 
+// A fixed-disk run whose Program file holds one item, "a", loaded with its
+// counter at `lastIndex`, input held back.
+void LoadOneProgramHoldingInput(TestApp& t, std::int16_t lastIndex) {
+    SetUpFixedDiskRun(t);
+    t.sys.PutFile(L"C:\\Apps\\a.exe");
+    t.sys.PutFile(t.app.place.FileListProg, ListFileBytes({{"a", "C:\\Apps\\a.exe"}}));
+    t.app.settings.HDDProgramLast = lastIndex;
+    t.dialogs.holdInputWork = true;
+    LaunchListLoad(t.app);
+}
+
 TEST(TargetTests, EachBatchIsAnsweredAsTheSingleTestsAnswerAndTheEndIsToldOnce) {
     TestApp t;
     t.sys.MapDrive(L'C', DriveType::Fixed);
@@ -148,12 +159,7 @@ TEST(DeferredListLoad, EndsWithExactlyTheListsOfALoadThatWaitsForEachFile) {
 
 TEST(DeferredListLoad, AFileThatBreaksOffIsReportedAtTheLoadAndItsRecordsReadJoinLater) {
     TestApp t;
-    SetUpFixedDiskRun(t);
-    t.sys.PutFile(L"C:\\Apps\\a.exe");
-    t.sys.PutFile(t.app.place.FileListProg, ListFileBytes({{"a", "C:\\Apps\\a.exe"}}));
-    t.app.settings.HDDProgramLast = 3;
-    t.dialogs.holdInputWork = true;
-    LaunchListLoad(t.app);
+    LoadOneProgramHoldingInput(t, 3);
     EXPECT_EQ(BugCount(t), 1);
     EXPECT_TRUE(BugShown(t, L"Quillstart:Bug:ActionLaunchListGet"));
     EXPECT_EQ(MergedNames(t, 2).ListCount(), 0);
@@ -180,12 +186,7 @@ TEST(DeferredListLoad, TheExitSaveWaitsForTheTestsAndWritesEveryItem) {
 
 TEST(DeferredListLoad, ASecondLoadFirstFinishesTheOneBefore) {
     TestApp t;
-    SetUpFixedDiskRun(t);
-    t.sys.PutFile(L"C:\\Apps\\a.exe");
-    t.sys.PutFile(t.app.place.FileListProg, ListFileBytes({{"a", "C:\\Apps\\a.exe"}}));
-    t.app.settings.HDDProgramLast = 0;
-    t.dialogs.holdInputWork = true;
-    LaunchListLoad(t.app);
+    LoadOneProgramHoldingInput(t, 0);
     LaunchListLoad(t.app);
     EXPECT_EQ(Entries(MergedNames(t, 2)), (Names{L"a"}));
     t.dialogs.RunHeldWork();
