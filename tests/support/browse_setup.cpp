@@ -4,6 +4,13 @@
 
 namespace qs::test {
 
+void LoadBrowseOverApps(TestApp& t) {
+    SetUpFixedDiskRun(t);
+    t.sys.PutFile(L"C:\\Apps\\player.exe");
+    t.sys.PutFile(L"C:\\Apps\\notes.txt");
+    LoadBrowse(t);
+}
+
 void LoadBrowse(TestApp& t) { t.app.frmBrowse.Load(); }
 
 void OpenBrowse(TestApp& t, std::int16_t mode) {

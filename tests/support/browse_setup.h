@@ -10,6 +10,9 @@ namespace qs::test {
 
 // Loads the pane as start-up does.
 void LoadBrowse(TestApp& t);
+// A fixed-disk run with a program and a document in C:\Apps, and the pane
+// loaded as start-up does.
+void LoadBrowseOverApps(TestApp& t);
 // Opens the pane in mode 0 (Add Item) or 1 (Open), as the bar's
 // PictureMenu(mode) does.
 void OpenBrowse(TestApp& t, std::int16_t mode);

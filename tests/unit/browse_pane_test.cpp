@@ -18,12 +18,10 @@ struct Pane : ::testing::Test {
     TestApp t;
     FrmBrowse& pane = t.app.frmBrowse;
     void SetUp() override {
-        SetUpFixedDiskRun(t);
-        t.sys.PutFile(L"C:\\Apps\\player.exe");
-        t.sys.PutFile(L"C:\\Apps\\notes.txt");
+        t.sys.MapDrive(L'C', DriveType::Fixed);
         t.sys.PutFile(L"C:\\Windows2\\tool.exe");
         t.sys.PutFile(L"C:\\Windows\\notepad.exe");
-        LoadBrowse(t);
+        LoadBrowseOverApps(t);
     }
 };
 

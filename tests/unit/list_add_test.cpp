@@ -15,10 +15,7 @@ struct AddOnFixedDisk : ::testing::Test {
     TestApp t;
     FrmBrowse& pane = t.app.frmBrowse;
     void SetUp() override {
-        SetUpFixedDiskRun(t);
-        t.sys.PutFile(L"C:\\Apps\\player.exe");
-        t.sys.PutFile(L"C:\\Apps\\notes.txt");
-        LoadBrowse(t);
+        LoadBrowseOverApps(t);
         OpenBrowse(t, 0);
     }
     void Option(std::int16_t i) { pane.OptionBrowse(i).UserClicked(); }
