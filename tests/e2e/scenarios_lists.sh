@@ -77,3 +77,27 @@ e2e_scenario 'p-m completes to p-myPlayer from the Program list, Enter starts it
   program_name_completes_and_starts lists_start
 e2e_scenario 'closing the bar writes the unchanged list back byte for byte and leaves the settings alone' \
   closing_keeps_unchanged_lists lists_start
+
+# All five groups at 32,767 items with their targets present, one Program
+# target the recorder: the bar shows while the targets are still tested, and
+# keys typed as soon as the box has the focus wait until the lists are whole,
+# then are taken in order.
+full_lists_start() {
+  e2e_seed_family C
+  python3 bench/seed_lists.py "$(e2e_drive_dir C)" full
+  cp "$E2E_TOOLS/recorder.exe" "$(e2e_drive_dir C)/Bench-full/Programs/p20000.exe"
+  e2e_start_quillstart
+}
+
+keys_typed_at_once_reach_a_full_list() {
+  e2e_click_box || return 1
+  xdotool key End shift+Home BackSpace
+  xdotool type --delay 1 -- 'p-Item20000'
+  xdotool key Return
+  e2e_wait_launch 'p20000.exe' || return 1
+  e2e_wait_text "" || return 1
+  [ "$(e2e_log_lines)" -eq 1 ] || e2e_fail "expected one launch: $(e2e_log_summary)"
+}
+
+e2e_scenario 'with every list full, an item typed at once after the bar shows starts from the Program list' \
+  keys_typed_at_once_reach_a_full_list full_lists_start
