@@ -26,6 +26,7 @@ namespace ui {
 class Backend;
 }
 struct PendingListLoad;
+class ListFileReads;
 
 struct Application {
     explicit Application(System& system);
@@ -82,6 +83,9 @@ struct Application {
 
     // The list load whose target tests are still running, if any.
     std::unique_ptr<PendingListLoad> pendingListLoad;
+    // The list files being read ahead of the load at start-up. Last, so that
+    // its thread ends before the place it reads from goes.
+    std::unique_ptr<ListFileReads> listReadAhead;
 };
 
 }  // namespace qs

@@ -5,7 +5,7 @@
 
 namespace qs {
 
-std::wstring ReadDataFile(Application& app, const std::wstring& path) { return app.sys.ReadTextFile(path); }
+std::wstring ReadDataFile(const Application& app, const std::wstring& path) { return app.sys.ReadTextFile(path); }
 
 void WriteDataFile(Application& app, const std::wstring& path, const std::wstring& text) {
     app.sys.WriteTextFile(path, text);
@@ -38,29 +38,32 @@ void RecordReader::SkipDelimiter() {
     }
 }
 
-std::wstring RecordReader::ReadString() {
+std::wstring_view RecordReader::ReadView() {
     while (at_ < text_.size() && (text_[at_] == L' ' || text_[at_] == L'\t')) ++at_;
     if (at_ >= text_.size()) throw InputPastEnd();
-    std::wstring value;
+    const std::wstring_view text(text_);
+    std::wstring_view value;
     if (text_[at_] == L'"') {
         const std::size_t close = text_.find(L'"', at_ + 1);
         const std::size_t end = close == std::wstring::npos ? text_.size() : close;
-        value = text_.substr(at_ + 1, end - at_ - 1);
+        value = text.substr(at_ + 1, end - at_ - 1);
         at_ = close == std::wstring::npos ? text_.size() : close + 1;
         // Anything between the closing quote and the delimiter is dropped.
         while (at_ < text_.size() && text_[at_] != L',' && !IsLineEnd(text_[at_])) ++at_;
     } else {
         const std::size_t start = at_;
         while (at_ < text_.size() && text_[at_] != L',' && !IsLineEnd(text_[at_])) ++at_;
-        value = text_.substr(start, at_ - start);
-        while (!value.empty() && (value.back() == L' ' || value.back() == L'\t')) value.pop_back();
+        value = text.substr(start, at_ - start);
+        while (!value.empty() && (value.back() == L' ' || value.back() == L'\t')) value.remove_suffix(1);
     }
     SkipDelimiter();
     return value;
 }
 
+std::wstring RecordReader::ReadString() { return std::wstring(ReadView()); }
+
 long long RecordReader::ReadInteger(long long low, long long high) {
-    const std::wstring field = ReadString();
+    const std::wstring_view field = ReadView();
     if (field.empty()) return 0;
     std::size_t i = 0;
     bool negative = false;

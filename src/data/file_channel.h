@@ -13,7 +13,7 @@ namespace qs {
 struct Application;
 
 // Whole-file read and write; failures reach the caller's handler.
-std::wstring ReadDataFile(Application& app, const std::wstring& path);
+std::wstring ReadDataFile(const Application& app, const std::wstring& path);
 void WriteDataFile(Application& app, const std::wstring& path, const std::wstring& text);
 
 // Reads values one at a time from a file's text. Spaces before a value are
@@ -26,6 +26,9 @@ public:
     explicit RecordReader(std::wstring text) : text_(std::move(text)) {}
 
     std::wstring ReadString();
+    // The next string value in place: valid while the reader lives, so a
+    // long file's values need no copy of their own on the way to a list.
+    std::wstring_view ReadView();
     std::int16_t ReadInt16();
     std::int32_t ReadInt32();
     // True when only blanks and line ends remain.

@@ -24,11 +24,17 @@ void ActionLaunchListSave(Application& app, std::int16_t group, std::int16_t las
 // Writes one flash-side file; the group comes as decimal text, "0" to "2".
 void ActionLaunchListSaveUSB(Application& app, const std::wstring& group, std::int16_t lastIndex);
 
+// Starts reading the files of the coming LaunchListLoad, and testing their
+// targets, on a thread of its own, so that the windows made before the
+// load are made meanwhile.
+void LaunchListReadAhead(Application& app);
 // The list part of frmChoose's load: the computer's five lists in group
-// order, then, on a flash drive, the flash drive's three. Files are read and
-// their failures reported at once; the File, Folder and Program targets are
-// tested on threads of their own, and their records join the lists when
-// LaunchListSettle runs, which the window system does before any input.
+// order, then, on a flash drive, the flash drive's three. The files are
+// read on a thread of their own (the one started ahead, when the files
+// are still the same); the load takes each as it is read, in its order,
+// and reports its failure then. Email and Web URL join the lists at once;
+// the File, Folder and Program records join them when LaunchListSettle
+// runs, which the window system does before any input.
 void LaunchListLoad(Application& app);
 // Waits for the load's target tests and adds the records that passed, file
 // by file in the load's order; does nothing when no load waits.

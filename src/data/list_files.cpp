@@ -34,9 +34,9 @@ std::wstring ToStoredFlashTarget(const Application& app, const std::wstring& tar
     return stored;
 }
 
-std::wstring FromStoredFlashTarget(const Application& app, const std::wstring& stored) {
-    if (stored.empty() || stored[0] != L'#') return stored;
-    return app.place.ProgramDriveLetter + stored.substr(1);
+std::wstring FromStoredFlashTarget(const Application& app, std::wstring_view stored) {
+    if (stored.empty() || stored[0] != L'#') return std::wstring(stored);
+    return app.place.ProgramDriveLetter + std::wstring(stored.substr(1));
 }
 
 }  // namespace qs

@@ -25,7 +25,7 @@ std::vector<bool> TargetsPass(Application& app, std::int16_t group, const std::v
 // E:\a.exe becomes #:\a.exe when E is the program's drive letter, exactly.
 std::wstring ToStoredFlashTarget(const Application& app, const std::wstring& target);
 // #:\a.exe becomes E:\a.exe on the program's drive E.
-std::wstring FromStoredFlashTarget(const Application& app, const std::wstring& stored);
+std::wstring FromStoredFlashTarget(const Application& app, std::wstring_view stored);
 
 // Steps a 16-bit loop index; stepping past 32,767 overflows.
 inline std::int16_t NextIndex(std::int16_t i) {

@@ -5,6 +5,7 @@
 #include "common/text_case.h"
 #include "data/active_family.h"
 #include "data/control_data.h"
+#include "data/launch_list.h"
 #include "startup/active_message.h"
 #include "startup/active_start_checks.h"
 #include "startup/desktop.h"
@@ -47,6 +48,8 @@ void Main(Application& app) {
     if (app.settings.OptionStartWithWindows == 1 && !place.OnRemovable && app.family.ProgramMoved)
         AutostartRegister(app);
 
+    // The list files are read while the bar and its pane are made.
+    LaunchListReadAhead(app);
     app.frmMain.Load();
     app.frmBrowse.Load();
     app.frmChoose.Load();

@@ -30,7 +30,9 @@ TEST(Tables, AppletTableHoldsTwentyTwoRowsInAlphabeticalOrderWithSixTypedOnly) {
     TestApp t;
     int typedOnly = 0;
     for (std::size_t i = 0; i < qs::AppletTable.size(); ++i) {
-        if (i > 0) EXPECT_LT(std::wstring(qs::AppletTable[i - 1].name), std::wstring(qs::AppletTable[i].name));
+        if (i > 0) {
+            EXPECT_LT(std::wstring(qs::AppletTable[i - 1].name), std::wstring(qs::AppletTable[i].name));
+        }
         bool listed = false;
         for (const auto& name : t.app.tables.ControlPanelNames)
             if (qs::LCase(name) == qs::AppletTable[i].name) listed = true;

@@ -9,10 +9,9 @@
 #include <stdexcept>
 
 #include "data/launch_list.h"
-#include "data/target_tests.h"
+#include "data/list_file_reads.h"
 #include "data_setup.h"
 #include "shown_messages.h"
-#include "text_views.h"
 
 namespace qs::test {
 namespace {
@@ -76,33 +75,37 @@ void LoadOneProgramHoldingInput(TestApp& t, std::int16_t lastIndex) {
     LaunchListLoad(t.app);
 }
 
-TEST(TargetTests, EachBatchIsAnsweredAsTheSingleTestsAnswerAndTheEndIsToldOnce) {
+TEST(ListFileReads, EachFilesTargetsAreAnsweredAsTheSingleTestsAnswerAndTheEndIsToldOnce) {
     TestApp t;
-    t.sys.MapDrive(L'C', DriveType::Fixed);
-    t.sys.PutFile(L"C:\\a\\one.txt");
-    std::filesystem::create_directories(t.sys.HostPath(L"C:\\a\\sub"));
-    const Names paths = {L"C:\\a\\one.txt", L"C:\\a\\sub", L"C:\\a\\two.txt", L"C:\\b\\x", L"Q:\\nowhere"};
-    TargetTests tests;
-    const std::size_t files = tests.Add(0, Views(paths));
-    const std::size_t folders = tests.Add(1, Views(paths));
-    const std::size_t programs = tests.Add(2, Views(paths));
+    SeedMixedFlashRun(t);
     std::atomic<int> ends = 0;
-    tests.Start(t.sys, [&ends] { ++ends; });
-    tests.Wait();
+    ListFileReads reads(t.app, [&ends] { ++ends; });
+    reads.Wait();
     EXPECT_EQ(ends.load(), 1);
-    for (std::size_t i = 0; i < paths.size(); ++i) {
-        EXPECT_EQ(tests.Passes(files)[i], t.sys.FileExists(paths[i])) << i;
-        EXPECT_EQ(tests.Passes(folders)[i], t.sys.FolderExists(paths[i])) << i;
-        EXPECT_EQ(tests.Passes(programs)[i], t.sys.FileExists(paths[i])) << i;
+    ASSERT_EQ(reads.Files().size(), 8u);
+    for (std::size_t i = 0; i < reads.Files().size(); ++i) {
+        const ListFileOfLoad& file = reads.Files()[i];
+        if (file.group > 2) continue;
+        const std::vector<ui::SharedText>& targets = reads.Records(i)->targets;
+        ASSERT_EQ(reads.Passes(i).size(), targets.size()) << i;
+        for (std::size_t r = 0; r < targets.size(); ++r) {
+            const std::wstring target(targets[r].Text());
+            const bool single = file.group == 1 ? t.sys.FolderExists(target) : t.sys.FileExists(target);
+            EXPECT_EQ(reads.Passes(i)[r], single) << target;
+        }
     }
 }
 
-TEST(TargetTests, NoBatchesTellTheEndAtOnce) {
+TEST(ListFileReads, NoFilesToReadTellTheEndAsWell) {
     TestApp t;
-    TargetTests tests;
-    bool ended = false;
-    tests.Start(t.sys, [&ended] { ended = true; });
-    EXPECT_TRUE(ended);
+    SetUpFixedDiskRun(t);
+    Settings& s = t.app.settings;
+    s.HDDFileLast = s.HDDFolderLast = s.HDDProgramLast = s.EmailLast = s.WebLast = -1;
+    std::atomic<bool> ended = false;
+    ListFileReads reads(t.app, [&ended] { ended = true; });
+    reads.Wait();
+    EXPECT_TRUE(reads.Files().empty());
+    EXPECT_TRUE(ended.load());
 }
 
 // A system whose bulk file test breaks, as one out of memory would.
@@ -112,16 +115,20 @@ struct BreakingBulkSystem : FakeSystem {
     }
 };
 
-TEST(TargetTests, ABatchWhoseSystemCallThrowsGivesTheFailureWhenItsAnswersAreAsked) {
+TEST(ListFileReads, AFileWhoseSystemCallThrowsGivesTheFailureWhenItsAnswersAreAsked) {
     BreakingBulkSystem sys;
-    sys.MapDrive(L'C', DriveType::Fixed);
-    TargetTests tests;
-    const std::size_t files = tests.Add(0, {L"C:\\a.txt"});
-    const std::size_t folders = tests.Add(1, {L"C:\\"});
-    tests.Start(sys, {});
-    tests.Wait();
-    EXPECT_THROW(tests.Passes(files), std::runtime_error);
-    EXPECT_EQ(tests.Passes(folders), std::vector<bool>{true});
+    Application app(sys);
+    SetUpFixedDiskRun(sys, app);
+    std::filesystem::create_directories(sys.HostPath(L"C:\\Work"));
+    sys.PutFile(app.place.FileListFile, ListFileBytes({{"plan", "C:\\plan.txt"}}));
+    sys.PutFile(app.place.FileListFold, ListFileBytes({{"work", "C:\\Work"}}));
+    Settings& s = app.settings;
+    s.HDDFileLast = s.HDDFolderLast = 0;
+    s.HDDProgramLast = s.EmailLast = s.WebLast = -1;
+    ListFileReads reads(app, {});
+    reads.Wait();
+    EXPECT_THROW(reads.Passes(0), std::runtime_error);
+    EXPECT_EQ(reads.Passes(1), std::vector<bool>{true});
 }
 
 TEST(DeferredListLoad, TestedGroupsWaitForTheFirstInputWhileEmailAndWebAreFilledAtOnce) {

@@ -1,0 +1,97 @@
+#include "data/list_file_read.h"
+
+#include <exception>
+#include <string>
+
+#include "common/application.h"
+#include "data/file_channel.h"
+#include "data/list_files.h"
+
+namespace qs {
+
+namespace {
+
+// Room for the records up to the stored last index.
+ReadRecords RoomFor(std::int16_t lastIndex) {
+    ReadRecords records;
+    const std::size_t count = static_cast<std::size_t>(lastIndex) + 1;
+    records.names.reserve(count);
+    records.targets.reserve(count);
+    return records;
+}
+
+// Every record of the file is kept, up to the stored last index; the
+// records read before a failure are still added, and only then is the
+// failure raised. The file's texts are carved from shared blocks.
+ReadRecords ReadComputerSide(RecordReader& reader, std::int16_t lastIndex) {
+    ReadRecords records = RoomFor(lastIndex);
+    ui::TextBlocks blocks;
+    try {
+        for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
+            ui::SharedText name(blocks, reader.ReadView());
+            ui::SharedText target(blocks, reader.ReadView());
+            records.names.push_back(std::move(name));
+            records.targets.push_back(std::move(target));
+        }
+    } catch (const std::exception&) {
+        records.failure = std::current_exception();
+    }
+    return records;
+}
+
+// A flash-side file ends early, without a word, at an empty name or target;
+// targets come back with the program's drive letter.
+ReadRecords ReadFlashSide(const Application& app, RecordReader& reader, std::int16_t lastIndex) {
+    ReadRecords records = RoomFor(lastIndex);
+    ui::TextBlocks blocks;
+    try {
+        for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
+            const std::wstring_view name = reader.ReadView();
+            const std::wstring_view stored = reader.ReadView();
+            if (name.empty() || stored.empty()) break;
+            records.names.emplace_back(blocks, name);
+            records.targets.emplace_back(blocks, FromStoredFlashTarget(app, stored));
+        }
+    } catch (const std::exception&) {
+        records.failure = std::current_exception();
+    }
+    return records;
+}
+
+}  // namespace
+
+std::vector<ListFileOfLoad> ListFilesOfLoad(const Application& app) {
+    const Settings& c = app.settings;
+    std::vector<ListFileOfLoad> files;
+    const auto add = [&files](std::int16_t group, std::int16_t lastIndex, bool flashSide) {
+        if (lastIndex > -1) files.push_back({group, lastIndex, flashSide});
+    };
+    add(0, c.HDDFileLast, false);
+    add(1, c.HDDFolderLast, false);
+    add(2, c.HDDProgramLast, false);
+    add(3, c.EmailLast, false);
+    add(4, c.WebLast, false);
+    // The flash side comes last: it merges into lists the computer side filled.
+    if (app.place.OnRemovable) {
+        add(0, c.USBFileLast, true);
+        add(1, c.USBFolderLast, true);
+        add(2, c.USBProgramLast, true);
+    }
+    return files;
+}
+
+std::optional<ReadRecords> ReadListFile(const Application& app, const ListFileOfLoad& file) {
+    const std::wstring& path = file.flashSide ? FlashSideFile(app, file.group) : ComputerSideFile(app, file.group);
+    if (!app.sys.FileExists(path)) return std::nullopt;
+    RecordReader reader(ReadDataFile(app, path));
+    return file.flashSide ? ReadFlashSide(app, reader, file.lastIndex) : ReadComputerSide(reader, file.lastIndex);
+}
+
+std::vector<std::wstring_view> TargetViews(const std::vector<ui::SharedText>& targets) {
+    std::vector<std::wstring_view> views;
+    views.reserve(targets.size());
+    for (const ui::SharedText& target : targets) views.push_back(target.Text());
+    return views;
+}
+
+}  // namespace qs

@@ -1,0 +1,79 @@
+#include "data/list_file_reads.h"
+
+#include <system_error>
+
+#include "common/application.h"
+
+namespace qs {
+
+namespace {
+
+bool Tested(const ListFileOfLoad& file) { return file.group < 3; }
+
+}  // namespace
+
+ListFileReads::ListFileReads(const Application& app, std::function<void()> finished)
+    : files_(ListFilesOfLoad(app)), slots_(files_.size()), finished_(std::move(finished)) {
+    try {
+        thread_ = std::thread([this, &app] { Run(app); });
+    } catch (const std::system_error&) {
+        Run(app);  // no thread to be had: read and test here
+    }
+}
+
+ListFileReads::~ListFileReads() { Wait(); }
+
+void ListFileReads::Run(const Application& app) {
+    for (std::size_t i = 0; i < files_.size(); ++i) {
+        Read(app, i);
+        {
+            const std::lock_guard<std::mutex> lock(mutex_);
+            filesRead_ = i + 1;
+        }
+        fileRead_.notify_all();
+    }
+    for (std::size_t i = 0; i < files_.size(); ++i) {
+        if (Tested(files_[i]) && slots_[i].records) Test(app, i);
+    }
+    if (finished_) finished_();
+}
+
+void ListFileReads::Read(const Application& app, std::size_t i) {
+    try {
+        slots_[i].records = ReadListFile(app, files_[i]);
+    } catch (...) {
+        slots_[i].readFailure = std::current_exception();
+    }
+}
+
+void ListFileReads::Test(const Application& app, std::size_t i) {
+    Slot& slot = slots_[i];
+    try {
+        const std::vector<std::wstring_view> targets = TargetViews(slot.records->targets);
+        slot.passes = files_[i].group == 1 ? app.sys.FoldersExist(targets) : app.sys.FilesExist(targets);
+    } catch (...) {
+        slot.testFailure = std::current_exception();
+    }
+}
+
+const std::optional<ReadRecords>& ListFileReads::Records(std::size_t i) {
+    {
+        std::unique_lock<std::mutex> lock(mutex_);
+        fileRead_.wait(lock, [this, i] { return filesRead_ > i; });
+    }
+    const Slot& slot = slots_.at(i);
+    if (slot.readFailure) std::rethrow_exception(slot.readFailure);
+    return slot.records;
+}
+
+void ListFileReads::Wait() {
+    if (thread_.joinable()) thread_.join();
+}
+
+const std::vector<bool>& ListFileReads::Passes(std::size_t i) const {
+    const Slot& slot = slots_.at(i);
+    if (slot.testFailure) std::rethrow_exception(slot.testFailure);
+    return slot.passes;
+}
+
+}  // namespace qs

@@ -1,0 +1,65 @@
+#pragma once
+// The files of one list load, read and tested on one thread of their own,
+// so that the windows can be made and shown meanwhile. The thread reads the
+// files in the load's order, then asks the system, in one bulk call per
+// file, whether the File, Folder and Program targets are there. The load
+// takes each file as soon as it is read, in its own order, and the answers
+// once they are all in; one thread, because the window thread needs the
+// other core of a small machine.
+#include <condition_variable>
+#include <cstddef>
+#include <exception>
+#include <functional>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <vector>
+
+#include "data/list_file_read.h"
+
+namespace qs {
+
+class ListFileReads {
+public:
+    // Starts on the files of the load as the settings stand now; `finished`
+    // is called once, on the reading thread, when every answer is in. Only
+    // the program's place and the system are used off the window thread,
+    // and neither changes while a load is under way.
+    ListFileReads(const Application& app, std::function<void()> finished);
+    ListFileReads(const ListFileReads&) = delete;
+    ListFileReads& operator=(const ListFileReads&) = delete;
+    // Waits for the thread.
+    ~ListFileReads();
+
+    const std::vector<ListFileOfLoad>& Files() const { return files_; }
+    // Waits until file `i` is read: its records, or none when there was no
+    // such file; throws what the reading threw.
+    const std::optional<ReadRecords>& Records(std::size_t i);
+    // Waits until every answer is in.
+    void Wait();
+    // After Wait: the answers for the targets of file `i`, a File, Folder or
+    // Program file that was read; throws what the system threw.
+    const std::vector<bool>& Passes(std::size_t i) const;
+
+private:
+    struct Slot {
+        std::optional<ReadRecords> records;
+        std::exception_ptr readFailure;
+        std::vector<bool> passes;
+        std::exception_ptr testFailure;
+    };
+
+    void Run(const Application& app);
+    void Read(const Application& app, std::size_t i);
+    void Test(const Application& app, std::size_t i);
+
+    std::vector<ListFileOfLoad> files_;
+    std::vector<Slot> slots_;
+    std::function<void()> finished_;
+    std::mutex mutex_;
+    std::condition_variable fileRead_;
+    std::size_t filesRead_ = 0;
+    std::thread thread_;
+};
+
+}  // namespace qs

@@ -1,0 +1,144 @@
+// The list files read on their own thread: each file taken from there is
+// what a read of its own gives, a load whose settings changed since the
+// start-up's read-ahead reads again, and a load over a read-ahead fills the
+// lists and reports damaged files exactly as a load that reads each file
+// as it comes to it.
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "data/launch_list.h"
+#include "data/list_file_reads.h"
+#include "data_setup.h"
+#include "shown_messages.h"
+
+namespace qs::test {
+namespace {
+
+using Names = std::vector<std::wstring>;
+
+Names Texts(const std::vector<ui::SharedText>& texts) {
+    Names out;
+    for (const ui::SharedText& text : texts) out.emplace_back(text.Text());
+    return out;
+}
+
+// A flash run with all eight files stored: the File file breaks off after
+// its first record, the flash-side Program file holds drive-free targets.
+void SeedEightFiles(TestApp& t) {
+    SetUpFlashRun(t, L'E');
+    const ProgramPlace& p = t.app.place;
+    t.sys.PutFile(p.FileListFile, ListFileBytes({{"doc", "C:\\Docs\\d.txt"}}) + "\"cut\"");
+    t.sys.PutFile(p.FileListFold, ListFileBytes({{"docs", "C:\\Docs"}}));
+    t.sys.PutFile(p.FileListProg, ListFileBytes({{"ant", "C:\\Apps\\a.exe"}, {"bee", "C:\\Apps\\b.exe"}}));
+    t.sys.PutFile(p.FileListMail, ListFileBytes({{"ann", "ann@mail.example"}}));
+    t.sys.PutFile(p.FileListWeb, ListFileBytes({{"news", "news.example"}}));
+    t.sys.PutFile(p.FileListUsbFile, ListFileBytes({{"notes", "#:\\notes.txt"}}));
+    t.sys.PutFile(p.FileListUsbFold, ListFileBytes({{"stick", "#:\\Stick"}}));
+    t.sys.PutFile(p.FileListUsbProg, ListFileBytes({{"tool", "#:\\Tools\\t.exe"}, {"zip", "#:\\Tools\\z.exe"}}));
+    Settings& c = t.app.settings;
+    c.HDDFileLast = 1;
+    c.HDDFolderLast = 0;
+    c.HDDProgramLast = 1;
+    c.EmailLast = 0;
+    c.WebLast = 0;
+    c.USBFileLast = 0;
+    c.USBFolderLast = 0;
+    c.USBProgramLast = 1;
+    for (const wchar_t* file : {L"C:\\Docs\\d.txt", L"C:\\Apps\\a.exe", L"C:\\Apps\\b.exe", L"E:\\notes.txt",
+                                L"E:\\Tools\\t.exe", L"E:\\Tools\\z.exe"})
+        t.sys.PutFile(file);
+    std::filesystem::create_directories(t.sys.HostPath(L"C:\\Docs"));
+    std::filesystem::create_directories(t.sys.HostPath(L"E:\\Stick"));
+}
+
+struct ReadAhead : ::testing::Test {
+    TestApp t;
+    void SetUp() override { SeedEightFiles(t); }
+};
+
+TEST_F(ReadAhead, EveryFileTakenIsWhatAReadOfItsOwnGives) {
+    ListFileReads reads(t.app, {});
+    ASSERT_EQ(reads.Files().size(), 8u);
+    for (std::size_t i = 0; i < reads.Files().size(); ++i) {
+        const ListFileOfLoad& file = reads.Files()[i];
+        const std::optional<ReadRecords> own = ReadListFile(t.app, file);
+        const std::optional<ReadRecords>& taken = reads.Records(i);
+        ASSERT_TRUE(own.has_value());
+        ASSERT_TRUE(taken.has_value());
+        EXPECT_EQ(Texts(taken->names), Texts(own->names)) << file.group << " " << file.flashSide;
+        EXPECT_EQ(Texts(taken->targets), Texts(own->targets)) << file.group << " " << file.flashSide;
+        EXPECT_EQ(static_cast<bool>(taken->failure), static_cast<bool>(own->failure));
+    }
+}
+
+TEST_F(ReadAhead, AFileThatBreaksOffComesBackWithTheRecordsBeforeTheBreakAndTheFailure) {
+    ListFileReads reads(t.app, {});
+    const std::optional<ReadRecords>& records = reads.Records(0);
+    ASSERT_TRUE(records.has_value());
+    EXPECT_EQ(Texts(records->names), (Names{L"doc"}));
+    EXPECT_TRUE(records->failure);
+}
+
+TEST_F(ReadAhead, FlashSideTargetsComeBackOnTheProgramsDrive) {
+    ListFileReads reads(t.app, {});
+    const ListFileOfLoad flashPrograms{2, 1, true};
+    ASSERT_EQ(reads.Files().back(), flashPrograms);
+    const std::optional<ReadRecords>& records = reads.Records(reads.Files().size() - 1);
+    ASSERT_TRUE(records.has_value());
+    EXPECT_EQ(Texts(records->targets), (Names{L"E:\\Tools\\t.exe", L"E:\\Tools\\z.exe"}));
+}
+
+TEST_F(ReadAhead, AFileGoneBeforeTheReadingComesBackAsNoFile) {
+    std::filesystem::remove(t.sys.HostPath(t.app.place.FileListWeb));
+    ListFileReads reads(t.app, {});
+    ASSERT_EQ(reads.Files()[4].group, 4);
+    EXPECT_FALSE(reads.Records(4).has_value());
+}
+
+TEST_F(ReadAhead, ALoadWhoseCountsChangedSinceTheReadAheadReadsTheFilesAgain) {
+    LaunchListReadAhead(t.app);
+    t.app.settings.HDDProgramLast = 0;
+    LaunchListLoad(t.app);
+    EXPECT_EQ(Entries(ComputerNames(t, 2)), (Names{L"ant"}));
+    EXPECT_EQ(t.app.listReadAhead, nullptr);
+}
+
+TEST_F(ReadAhead, ALoadOverTheReadAheadFillsTheListsAsALoadThatReadsEachFile) {
+    TestApp reference;
+    SeedEightFiles(reference);
+    LaunchListLoad(reference.app);
+
+    LaunchListReadAhead(t.app);
+    LaunchListLoad(t.app);
+    EXPECT_EQ(t.app.listReadAhead, nullptr);
+    for (int group = 0; group < 5; ++group) {
+        EXPECT_EQ(Entries(MergedNames(t, group)), Entries(MergedNames(reference, group))) << group;
+        EXPECT_EQ(Entries(MergedPaths(t, group)), Entries(MergedPaths(reference, group))) << group;
+    }
+    for (int group = 0; group < 3; ++group) {
+        EXPECT_EQ(Entries(ComputerPaths(t, group)), Entries(ComputerPaths(reference, group))) << group;
+        EXPECT_EQ(Entries(FlashPaths(t, group)), Entries(FlashPaths(reference, group))) << group;
+    }
+    EXPECT_EQ(Entries(MergedNames(t, 2)), (Names{L"ant", L"bee", L"tool", L"zip"}));
+    EXPECT_EQ(BugCount(t), 1);
+    EXPECT_TRUE(BugShown(t, L"Quillstart:Bug:ActionLaunchListGet"));
+}
+
+TEST_F(ReadAhead, DamagedFilesAreReportedInTheLoadsOrderNotTheOrderTheirReadingsEnd) {
+    // The flash-side Folder file's record has no target; the computer's
+    // File file breaks off too. The computer's side is reported first.
+    t.sys.PutFile(t.app.place.FileListUsbFold, std::string("\"stick\""));
+    t.app.settings.USBFolderLast = 1;
+    LaunchListReadAhead(t.app);
+    LaunchListLoad(t.app);
+    const std::vector<MessageRequest>& shown = ShownMessages(t);
+    ASSERT_EQ(shown.size(), 2u);
+    EXPECT_EQ(shown[0].key, L"Quillstart:Bug:ActionLaunchListGet");
+    EXPECT_EQ(shown[1].key, L"Quillstart:Bug:ActionLaunchListGetUSB");
+}
+
+}  // namespace
+}  // namespace qs::test
