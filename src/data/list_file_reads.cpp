@@ -57,11 +57,12 @@ void ListFileReads::Test(const Application& app, std::size_t i) {
 }
 
 const std::optional<ReadRecords>& ListFileReads::Records(std::size_t i) {
+    // Asked of a file the load does not read, this throws rather than waits.
+    const Slot& slot = slots_.at(i);
     {
         std::unique_lock<std::mutex> lock(mutex_);
         fileRead_.wait(lock, [this, i] { return filesRead_ > i; });
     }
-    const Slot& slot = slots_.at(i);
     if (slot.readFailure) std::rethrow_exception(slot.readFailure);
     return slot.records;
 }

@@ -106,6 +106,7 @@ TEST(ListFileReads, NoFilesToReadTellTheEndAsWell) {
     reads.Wait();
     EXPECT_TRUE(reads.Files().empty());
     EXPECT_TRUE(ended.load());
+    EXPECT_THROW(reads.Records(0), std::out_of_range);
 }
 
 // A system whose bulk file test breaks, as one out of memory would.
