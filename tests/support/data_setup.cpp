@@ -50,6 +50,17 @@ void SetUpFlashRun(FakeSystem& sys, Application& app, wchar_t letter, const std:
     MakeDataFolders(sys, app);
 }
 
+void StoreListCounts(Settings& settings, const ListCounts& counts) {
+    settings.HDDFileLast = counts.file;
+    settings.HDDFolderLast = counts.folder;
+    settings.HDDProgramLast = counts.program;
+    settings.EmailLast = counts.email;
+    settings.WebLast = counts.web;
+    settings.USBFileLast = counts.usbFile;
+    settings.USBFolderLast = counts.usbFolder;
+    settings.USBProgramLast = counts.usbProgram;
+}
+
 std::string ListFileBytes(const std::vector<std::pair<std::string, std::string>>& records) {
     std::string bytes;
     for (const auto& [name, target] : records) bytes += "\"" + name + "\",\"" + target + "\"\r\n";

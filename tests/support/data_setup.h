@@ -1,6 +1,7 @@
 #pragma once
 // Runs of the program as start-up leaves them for the data routines: the
 // program's place decided, the data folders made and every file path set.
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -22,6 +23,20 @@ inline void SetUpFixedDiskRun(TestApp& t, const std::wstring& programFolder = L"
 inline void SetUpFlashRun(TestApp& t, wchar_t letter, const std::wstring& computer = L"DESK1") {
     SetUpFlashRun(t.sys, t.app, letter, computer);
 }
+
+// The stored last index of each list file, as the records hold them; -1
+// for a group stored empty.
+struct ListCounts {
+    std::int16_t file = -1;
+    std::int16_t folder = -1;
+    std::int16_t program = -1;
+    std::int16_t email = -1;
+    std::int16_t web = -1;
+    std::int16_t usbFile = -1;
+    std::int16_t usbFolder = -1;
+    std::int16_t usbProgram = -1;
+};
+void StoreListCounts(Settings& settings, const ListCounts& counts);
 
 // A list file's bytes: one quoted name and quoted target per CR LF line.
 std::string ListFileBytes(const std::vector<std::pair<std::string, std::string>>& records);

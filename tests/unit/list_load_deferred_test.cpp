@@ -53,15 +53,8 @@ void SeedMixedFlashRun(TestApp& t) {
     t.sys.PutFile(p.FileListUsbFile, ListFileBytes({{"notes", "#:\\Docs\\notes.txt"}, {"old", "#:\\old.txt"}}));
     t.sys.PutFile(p.FileListUsbFold, ListFileBytes({{"music", "#:\\Music"}}));
     t.sys.PutFile(p.FileListUsbProg, ListFileBytes({{"edit", "#:\\Tools\\zip.exe"}, {"zip", "#:\\Tools\\zip.exe"}}));
-    Settings& s = t.app.settings;
-    s.HDDFileLast = 1;
-    s.HDDFolderLast = 1;
-    s.HDDProgramLast = 0;
-    s.EmailLast = 0;
-    s.WebLast = 0;
-    s.USBFileLast = 1;
-    s.USBFolderLast = 0;
-    s.USBProgramLast = 1;
+    StoreListCounts(t.app.settings, {.file = 1, .folder = 1, .program = 0, .email = 0,
+                                     .web = 0, .usbFile = 1, .usbFolder = 0, .usbProgram = 1});
 }
 
 // A fixed-disk run whose Program file holds one item, "a", loaded with its
@@ -99,8 +92,7 @@ TEST(ListFileReads, EachFilesTargetsAreAnsweredAsTheSingleTestsAnswerAndTheEndIs
 TEST(ListFileReads, NoFilesToReadTellTheEndAsWell) {
     TestApp t;
     SetUpFixedDiskRun(t);
-    Settings& s = t.app.settings;
-    s.HDDFileLast = s.HDDFolderLast = s.HDDProgramLast = s.EmailLast = s.WebLast = -1;
+    StoreListCounts(t.app.settings, {});
     std::atomic<bool> ended = false;
     ListFileReads reads(t.app, [&ended] { ended = true; });
     reads.Wait();
@@ -123,9 +115,7 @@ TEST(ListFileReads, AFileWhoseSystemCallThrowsGivesTheFailureWhenItsAnswersAreAs
     std::filesystem::create_directories(sys.HostPath(L"C:\\Work"));
     sys.PutFile(app.place.FileListFile, ListFileBytes({{"plan", "C:\\plan.txt"}}));
     sys.PutFile(app.place.FileListFold, ListFileBytes({{"work", "C:\\Work"}}));
-    Settings& s = app.settings;
-    s.HDDFileLast = s.HDDFolderLast = 0;
-    s.HDDProgramLast = s.EmailLast = s.WebLast = -1;
+    StoreListCounts(app.settings, {.file = 0, .folder = 0});
     ListFileReads reads(app, {});
     reads.Wait();
     EXPECT_THROW(reads.Passes(0), std::runtime_error);

@@ -38,15 +38,8 @@ void SeedEightFiles(TestApp& t) {
     t.sys.PutFile(p.FileListUsbFile, ListFileBytes({{"notes", "#:\\notes.txt"}}));
     t.sys.PutFile(p.FileListUsbFold, ListFileBytes({{"stick", "#:\\Stick"}}));
     t.sys.PutFile(p.FileListUsbProg, ListFileBytes({{"tool", "#:\\Tools\\t.exe"}, {"zip", "#:\\Tools\\z.exe"}}));
-    Settings& c = t.app.settings;
-    c.HDDFileLast = 1;
-    c.HDDFolderLast = 0;
-    c.HDDProgramLast = 1;
-    c.EmailLast = 0;
-    c.WebLast = 0;
-    c.USBFileLast = 0;
-    c.USBFolderLast = 0;
-    c.USBProgramLast = 1;
+    StoreListCounts(t.app.settings, {.file = 1, .folder = 0, .program = 1, .email = 0,
+                                     .web = 0, .usbFile = 0, .usbFolder = 0, .usbProgram = 1});
     for (const wchar_t* file : {L"C:\\Docs\\d.txt", L"C:\\Apps\\a.exe", L"C:\\Apps\\b.exe", L"E:\\notes.txt",
                                 L"E:\\Tools\\t.exe", L"E:\\Tools\\z.exe"})
         t.sys.PutFile(file);
