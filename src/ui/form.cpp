@@ -39,8 +39,13 @@ void Form::SetTopMost(bool topMost) {
 void Form::Load() {
     if (loaded_) return;
     loaded_ = true;
-    if (backend_ != nullptr) backend_->FormLoaded(*this);
+    const std::uint32_t load = ++loads_;
+    // The Load event sets the form up before its window is made, so the
+    // window is made once as the event left the form instead of following
+    // each of its changes. A Load event that unloaded the form, or unloaded
+    // and loaded it again, has already settled its window.
     if (LoadEvent) LoadEvent();
+    if (loaded_ && loads_ == load && backend_ != nullptr) backend_->FormLoaded(*this);
 }
 
 void Form::Show() {

@@ -58,7 +58,8 @@ public:
     bool TopMost() const { return topMost_; }
     void SetTopMost(bool topMost);
 
-    // Loads the form if needed; Load fires once per load.
+    // Loads the form if needed; Load fires once per load, before the
+    // backend makes the form's window.
     void Load();
     void Show();
     // Shows the form and returns when it has been hidden or unloaded.
@@ -106,6 +107,8 @@ private:
     std::int32_t width_ = 0;
     std::int32_t height_ = 0;
     bool loaded_ = false;
+    // Counts the loads, so a Load event that reloaded the form is known.
+    std::uint32_t loads_ = 0;
     bool visible_ = false;
     bool modal_ = false;
     bool topMost_ = false;

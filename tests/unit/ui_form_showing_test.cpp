@@ -35,4 +35,31 @@ TEST(UiFormShowing, ShowAndModalShowTellTheBackendBeforeTheFormAppearsAndASecond
     EXPECT_EQ(backend.calls, (std::vector<std::string>{"loaded", "showing", "showing", "modal"}));
 }
 
+TEST(UiFormShowing, TheLoadEventRunsBeforeTheWindowIsMadeAndAReloadInsideItMakesOneWindow) {
+    qs::ui::Form pane{L"frmPane", qs::ui::FormStyle::Dialog};
+    RecordingBackend backend;
+    pane.SetBackend(&backend);
+    bool reload = true;
+    pane.LoadEvent = [&] {
+        backend.calls.push_back("load event");
+        if (!reload) return;
+        reload = false;
+        pane.Unload();
+        pane.Load();
+    };
+    pane.Load();
+    EXPECT_TRUE(pane.IsLoaded());
+    EXPECT_EQ(backend.calls, (std::vector<std::string>{"load event", "unloaded", "load event", "loaded"}));
+}
+
+TEST(UiFormShowing, AFormUnloadedByItsLoadEventGetsNoWindow) {
+    qs::ui::Form pane{L"frmPane", qs::ui::FormStyle::Dialog};
+    RecordingBackend backend;
+    pane.SetBackend(&backend);
+    pane.LoadEvent = [&pane] { pane.Unload(); };
+    pane.Load();
+    EXPECT_FALSE(pane.IsLoaded());
+    EXPECT_EQ(backend.calls, (std::vector<std::string>{"unloaded"}));
+}
+
 }  // namespace

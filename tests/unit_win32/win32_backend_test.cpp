@@ -448,6 +448,64 @@ TEST_F(Win32BackendTest, AWaitingFormUnloadedBeforeItsShowingLeavesNothingBehind
     pane.Unload();
 }
 
+TEST_F(Win32BackendTest, ControlsWhoseTabIndexesReverseTheirOrderAreTabbedByIndex) {
+    TestForm pane;
+    pane.SetCaption(L"QuillstartTabPane");
+    pane.Button.SetTabIndex(0);
+    pane.Box.SetTabIndex(1);
+    pane.SetBackend(&backend);
+    pane.Load();
+    const HWND shown = backend.WindowOf(pane);
+    ASSERT_NE(shown, nullptr);
+    const HWND button = ::FindWindowExW(shown, nullptr, L"BUTTON", nullptr);
+    const HWND box = ::FindWindowExW(shown, nullptr, L"EDIT", nullptr);
+    ASSERT_NE(button, nullptr);
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(::GetWindow(shown, GW_CHILD), button);
+    EXPECT_EQ(::GetNextDlgTabItem(shown, button, FALSE), box);
+    EXPECT_EQ(::GetNextDlgTabItem(shown, box, FALSE), button);
+    pane.Unload();
+}
+
+TEST_F(Win32BackendTest, TheWindowOfAFormIsMadeAsItsLoadEventLeftIt) {
+    TestForm pane;
+    pane.SetCaption(L"QuillstartLoadedPane");
+    HWND duringLoad = reinterpret_cast<HWND>(1);
+    pane.LoadEvent = [&] {
+        duringLoad = backend.WindowOf(pane);
+        pane.Box.SetText(L"set by the Load event");
+        pane.Button.Move(300, 0, 900, 300);
+        pane.Show();
+    };
+    pane.SetBackend(&backend);
+    pane.Load();
+    EXPECT_EQ(duringLoad, nullptr);
+    const HWND shown = backend.WindowOf(pane);
+    ASSERT_NE(shown, nullptr);
+    EXPECT_TRUE(::IsWindowVisible(shown));
+    const HWND box = ::FindWindowExW(shown, nullptr, L"EDIT", nullptr);
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(TextOf(box), L"set by the Load event");
+    const HWND button = ::FindWindowExW(shown, nullptr, L"BUTTON", nullptr);
+    ASSERT_NE(button, nullptr);
+    RECT place{};
+    ::GetWindowRect(button, &place);
+    ::MapWindowPoints(HWND_DESKTOP, shown, reinterpret_cast<POINT*>(&place), 2);
+    EXPECT_EQ(place.left, qs::win::TwipsToPixels(300, qs::win::WindowDpi(shown)));
+    pane.Unload();
+}
+
+TEST_F(Win32BackendTest, ALoadEventThatUnloadsItsFormLeavesNoWindow) {
+    TestForm pane;
+    pane.SetCaption(L"QuillstartRefusedPane");
+    pane.LoadEvent = [&pane] { pane.Unload(); };
+    pane.SetBackend(&backend);
+    pane.Load();
+    EXPECT_FALSE(pane.IsLoaded());
+    EXPECT_EQ(backend.WindowOf(pane), nullptr);
+    EXPECT_EQ(::FindWindowW(nullptr, L"QuillstartRefusedPane"), nullptr);
+}
+
 // Work that input waits for (the lists of a start) runs when the thread
 // that finished it wakes the loop, even with no input at all.
 TEST_F(Win32BackendTest, WorkForInputRunsWhenTheWakerCallsFromAnotherThread) {
