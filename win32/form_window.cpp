@@ -92,14 +92,16 @@ void FormWindow::Detach() {
 void FormWindow::CreateControls() {
     int id = kFirstControlId;
     for (ui::Control* control : form_.Controls()) controls_.push_back(MakeControlWindow(*this, *control, id++));
-    for (auto& control : controls_) control->Create();
     // The tab order starts as the controls' tab indexes give it; equal
-    // indexes keep the order in which the controls were made.
+    // indexes keep the order in which the controls were declared.
     for (auto& control : controls_) tabOrder_.push_back(control.get());
     std::stable_sort(tabOrder_.begin(), tabOrder_.end(), [](const ControlWindow* a, const ControlWindow* b) {
         return a->Model().TabIndex() < b->Model().TabIndex();
     });
-    ApplyTabOrder();
+    // A new child window goes beneath the ones made before it, and Tab
+    // follows that order: made in tab order, the windows need no moving.
+    for (ControlWindow* control : tabOrder_) control->Create();
+    PutFramesBeneath();
     created_ = true;
 }
 
@@ -127,6 +129,10 @@ void FormWindow::ApplyTabOrder() {
         ::SetWindowPos(control->Handle(), after, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
         after = control->Handle();
     }
+    PutFramesBeneath();
+}
+
+void FormWindow::PutFramesBeneath() {
     // A frame lies beneath the controls it holds.
     for (const ControlWindow* control : tabOrder_) {
         if (control->Handle() == nullptr || control->Model().Kind() != ui::ControlKind::Frame) continue;

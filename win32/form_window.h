@@ -81,6 +81,8 @@ private:
     void FocusFirstControl();
     // Puts the child windows in the tab order.
     void ApplyTabOrder();
+    // Puts the frames beneath the controls they hold.
+    void PutFramesBeneath();
     ControlWindow* ControlById(int id) const;
     void ReportMove();
 
