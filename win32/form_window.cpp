@@ -17,6 +17,9 @@ namespace {
 // Ids of the child windows start here; a timer's id is its control's id.
 constexpr int kFirstControlId = 100;
 
+// Posted to a form's window at its first showing: the tips are made then.
+constexpr UINT kMakeToolTipsMessage = WM_APP + 1;
+
 UINT SurfaceMessage() {
     static const UINT message = ::RegisterWindowMessageW(kSurfaceMessage);
     return message;
@@ -75,7 +78,8 @@ FormWindow::FormWindow(HINSTANCE instance, ui::Form& form)
     MakeFont();
     CreateControls();
     form_.AttachPeer(this);
-    ApplyTopMost();
+    // A new window is not topmost.
+    if (form_.TopMost()) ApplyTopMost();
     if (form_.Visible()) ApplyVisible();
 }
 
@@ -158,6 +162,10 @@ void FormWindow::FieldsMoved() {
 
 void FormWindow::SetToolTip(HWND child, const std::wstring& text) {
     if (child == nullptr || Handle() == nullptr) return;
+    if (!tipsReady_) {
+        waitingTips_[child] = text;
+        return;
+    }
     if (toolTips_ == nullptr) {
         if (text.empty()) return;
         toolTips_ = ::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
@@ -174,6 +182,15 @@ void FormWindow::SetToolTip(HWND child, const std::wstring& text) {
     if (text.empty()) return;
     tool.lpszText = const_cast<wchar_t*>(text.c_str());
     ::SendMessageW(toolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void FormWindow::MakeWaitingToolTips() {
+    tipsReady_ = true;
+    std::map<HWND, std::wstring> waiting;
+    waiting.swap(waitingTips_);
+    for (const auto& [child, text] : waiting) {
+        if (::IsChild(Handle(), child)) SetToolTip(child, text);
+    }
 }
 
 void FormWindow::MakeFont() {
@@ -231,6 +248,12 @@ void FormWindow::ApplyVisible() {
         }
     }
     ::ShowWindow(Handle(), form_.Visible() ? SW_SHOW : SW_HIDE);
+    // Tips are only seen on a shown window: they are made once it has been
+    // drawn, so the window shows without waiting for the tip window.
+    if (form_.Visible() && !tipsReady_ && !tipsAsked_) {
+        tipsAsked_ = true;
+        ::PostMessageW(Handle(), kMakeToolTipsMessage, 0, 0);
+    }
 }
 
 void FormWindow::ApplyTopMost() {
@@ -297,6 +320,9 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 1;
     }
     switch (message) {
+        case kMakeToolTipsMessage:
+            MakeWaitingToolTips();
+            return 0;
         case WM_PAINT:
             Paint();
             return 0;

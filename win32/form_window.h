@@ -6,6 +6,7 @@
 // form and turned into pixels at the window's DPI.
 #include <windows.h>
 
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -48,7 +49,8 @@ public:
     void TabIndexChanged(ControlWindow& control);
     // A control made its window after the form's: it takes its tab place.
     void ChildCreated();
-    // Shows the text as the tip of a child window; "" removes the tip.
+    // Shows the text as the tip of a child window; "" removes the tip. A tip
+    // set before the form's window has first shown waits for that showing.
     void SetToolTip(HWND child, const std::wstring& text);
 
     // Cuts every tie to the form and its controls and destroys the window.
@@ -64,6 +66,8 @@ private:
     void CreateControls();
     void ApplyGeometry();
     void ApplyVisible();
+    // Gives the children the tips that waited for the first showing.
+    void MakeWaitingToolTips();
     void ApplyTopMost();
     void ApplyDpi(UINT dpi, const RECT* suggested);
     void MakeFont();
@@ -100,6 +104,10 @@ private:
     HWND lastFocus_ = nullptr;
     // The form's tooltip window, made at the first tip; owned by the form's window.
     HWND toolTips_ = nullptr;
+    // Tips by child window, set before the window first showed.
+    std::map<HWND, std::wstring> waitingTips_;
+    bool tipsAsked_ = false;
+    bool tipsReady_ = false;
     // True while the form's own geometry is written to the window.
     bool placing_ = false;
     bool detached_ = false;

@@ -316,8 +316,8 @@ TEST_F(Win32BackendTest, SecondCopyFindsTheBarByItsCaptionAndSurfacesIt) {
     EXPECT_TRUE(::IsWindowVisible(window));
 }
 
-TEST_F(Win32BackendTest, ToolTipTextBecomesATipOfTheControlsWindow) {
-    form.Box.SetToolTipText(L"Type a Command");
+// The tip window of this thread, or none.
+HWND ThreadToolTips() {
     HWND tips = nullptr;
     ::EnumThreadWindows(
         ::GetCurrentThreadId(),
@@ -329,6 +329,17 @@ TEST_F(Win32BackendTest, ToolTipTextBecomesATipOfTheControlsWindow) {
             return FALSE;
         },
         reinterpret_cast<LPARAM>(&tips));
+    return tips;
+}
+
+TEST_F(Win32BackendTest, ToolTipTextBecomesATipOfTheControlsWindowOnceTheFormHasShown) {
+    form.Box.SetToolTipText(L"Type a Command");
+    form.Button.SetToolTipText(L"Taken back before the showing");
+    form.Button.SetToolTipText(L"");
+    EXPECT_EQ(ThreadToolTips(), nullptr);
+    form.Show();
+    Pump();
+    const HWND tips = ThreadToolTips();
     ASSERT_NE(tips, nullptr);
     EXPECT_EQ(::SendMessageW(tips, TTM_GETTOOLCOUNT, 0, 0), 1);
     wchar_t text[80] = {};
