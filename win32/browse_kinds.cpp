@@ -1,10 +1,10 @@
 #include "browse_kinds.h"
 
-#include <commctrl.h>
 #include <windowsx.h>
 
 #include "dpi.h"
 #include "form_window.h"
+#include "window_hook.h"
 
 namespace qs::win {
 
@@ -36,7 +36,7 @@ void FrameWindow::Create() {
         CreateChild(L"STATIC", SS_NOTIFY);
         if (Handle() == nullptr) return;
     }
-    ::SetWindowSubclass(Handle(), AreaProc, 1, reinterpret_cast<DWORD_PTR>(this));
+    HookWindow(Handle(), AreaProc, this);
 }
 
 void FrameWindow::OnChanged(ui::Property what) {
@@ -45,9 +45,8 @@ void FrameWindow::OnChanged(ui::Property what) {
     }
 }
 
-LRESULT CALLBACK FrameWindow::AreaProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                       DWORD_PTR self) {
-    auto* frame = reinterpret_cast<FrameWindow*>(self);
+LRESULT FrameWindow::AreaProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* self) {
+    auto* frame = static_cast<FrameWindow*>(self);
     if (message == WM_ERASEBKGND) {
         // A group box paints only its line and caption: the inside takes
         // the face the form gives its controls.
@@ -65,7 +64,7 @@ LRESULT CALLBACK FrameWindow::AreaProc(HWND window, UINT message, WPARAM wParam,
         frame->frame_.UserMouseMove(button, 0, PixelsToTwips(GET_X_LPARAM(lParam), dpi),
                                     PixelsToTwips(GET_Y_LPARAM(lParam), dpi));
     }
-    return ::DefSubclassProc(window, message, wParam, lParam);
+    return CallOwnProcedure(window, message, wParam, lParam);
 }
 
 void DriveBoxWindow::Create() {

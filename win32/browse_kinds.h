@@ -5,8 +5,8 @@
 #include "ui/dir_list_box.h"
 #include "ui/drive_list_box.h"
 #include "ui/frame.h"
-#include "ui/picture_box.h"
 #include "ui/option_button.h"
+#include "ui/picture_box.h"
 
 namespace qs::win {
 
@@ -38,8 +38,7 @@ protected:
     void OnChanged(ui::Property what) override;
 
 private:
-    static LRESULT CALLBACK AreaProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                     DWORD_PTR self);
+    static LRESULT AreaProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* self);
 
     ui::Frame& frame_;
 };

@@ -33,6 +33,9 @@ public:
     void OnCommand(WORD code) override;
     bool TakesFocus() const override { return Model().Shown() && Model().Enabled(); }
 
+protected:
+    void OnChanged(ui::Property what) override;
+
 private:
     ui::CommandButton& button_;
 };

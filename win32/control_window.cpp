@@ -1,16 +1,17 @@
 #include "control_window.h"
 
+#include <optional>
 #include <utility>
 
 #include "color_ref.h"
 #include "dialog_look.h"
 #include "dpi.h"
 #include "form_window.h"
+#include "styled_controls.h"
 
 namespace qs::win {
 
-ControlWindow::ControlWindow(FormWindow& form, ui::Control& control, int id)
-    : form_(form), control_(control), id_(id) {
+ControlWindow::ControlWindow(FormWindow& form, ui::Control& control, int id) : form_(form), control_(control), id_(id) {
     control_.AttachPeer(this);
 }
 
@@ -28,9 +29,12 @@ void ControlWindow::CreateChild(const wchar_t* windowClass, DWORD style, DWORD e
     if (control_.Shown()) style |= WS_VISIBLE;
     if (!control_.Enabled()) style |= WS_DISABLED;
     const RECT r = PixelRect();
+    std::optional<StyledControlsScope> styled;
+    if (HasStyledLook(windowClass)) styled.emplace();
     window_ = ::CreateWindowExW(exStyle, windowClass, L"", style, r.left, r.top, r.right - r.left, r.bottom - r.top,
                                 form_.Handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(id_)),
                                 ::GetModuleHandleW(nullptr), nullptr);
+    styled.reset();
     if (window_ == nullptr) return;
     ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(ControlFont()), FALSE);
     if (!control_.ToolTipText().empty()) form_.SetToolTip(window_, control_.ToolTipText());

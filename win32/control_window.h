@@ -37,6 +37,9 @@ public:
     virtual void OnCommand(WORD) {}
     // A WM_TIMER with the control's id.
     virtual void OnTimer() {}
+    // The form's window has shown for the first time: what only matters on
+    // screen may be made now.
+    virtual void FormShown() {}
     // The form's DPI or font changed.
     void ApplyDpi();
     // The form's size changed: the window takes its place again.

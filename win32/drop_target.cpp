@@ -1,5 +1,7 @@
 #include "drop_target.h"
 
+#include "ole_on_demand.h"
+
 #include <string>
 
 namespace qs::win {
@@ -140,7 +142,7 @@ private:
 
 TextDropRegistration::TextDropRegistration(HWND edit, ui::TextBox& box)
     : edit_(edit), target_(new TextDropTarget(edit, box)) {
-    registered_ = SUCCEEDED(::RegisterDragDrop(edit_, target_));
+    registered_ = OleOnDemand::Start() && SUCCEEDED(::RegisterDragDrop(edit_, target_));
 }
 
 TextDropRegistration::~TextDropRegistration() {

@@ -8,23 +8,10 @@
 
 namespace qs::win {
 
-// OLE for the calling thread for the scope; drag and drop needs it.
-class OleScope {
-public:
-    OleScope() : result_(::OleInitialize(nullptr)) {}
-    OleScope(const OleScope&) = delete;
-    OleScope& operator=(const OleScope&) = delete;
-    ~OleScope() {
-        if (SUCCEEDED(result_)) ::OleUninitialize();
-    }
-
-private:
-    HRESULT result_;
-};
-
 class TextDropTarget;
 
-// The edit window registered as a drop target for the scope.
+// The edit window registered as a drop target for the scope; OLE is started
+// for it if it does not run yet.
 class TextDropRegistration {
 public:
     TextDropRegistration(HWND edit, ui::TextBox& box);

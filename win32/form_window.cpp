@@ -1,13 +1,14 @@
 #include "form_window.h"
 
-#include <windows.h>
 #include <commctrl.h>
+#include <windows.h>
 #include <windowsx.h>
 
 #include <algorithm>
 
 #include "dpi.h"
 #include "res/resource_ids.h"
+#include "styled_controls.h"
 #include "window_names.h"
 
 namespace qs::win {
@@ -17,8 +18,9 @@ namespace {
 // Ids of the child windows start here; a timer's id is its control's id.
 constexpr int kFirstControlId = 100;
 
-// Posted to a form's window at its first showing: the tips are made then.
-constexpr UINT kMakeToolTipsMessage = WM_APP + 1;
+// Posted to a form's window at its first showing, to make what only
+// matters on screen.
+constexpr UINT kFirstShownMessage = WM_APP + 1;
 
 UINT SurfaceMessage() {
     static const UINT message = ::RegisterWindowMessageW(kSurfaceMessage);
@@ -32,8 +34,8 @@ bool IsBorderless(const ui::Form& form) { return form.Style() == ui::FormStyle::
 HICON ProgramIcon(HINSTANCE instance, int widthMetric, int heightMetric) {
     const int width = ::GetSystemMetrics(widthMetric);
     const int height = ::GetSystemMetrics(heightMetric);
-    auto* icon = static_cast<HICON>(
-        ::LoadImageW(instance, MAKEINTRESOURCEW(IDI_QUILLSTART), IMAGE_ICON, width, height, LR_DEFAULTCOLOR | LR_SHARED));
+    auto* icon = static_cast<HICON>(::LoadImageW(instance, MAKEINTRESOURCEW(IDI_QUILLSTART), IMAGE_ICON, width, height,
+                                                 LR_DEFAULTCOLOR | LR_SHARED));
     return icon != nullptr ? icon : ::LoadIconW(nullptr, IDI_APPLICATION);
 }
 
@@ -59,14 +61,13 @@ void FormWindow::RegisterClasses(HINSTANCE instance) {
     }
 }
 
-FormWindow::FormWindow(HINSTANCE instance, ui::Form& form)
-    : form_(form) {
+FormWindow::FormWindow(HINSTANCE instance, ui::Form& form) : form_(form) {
     dpi_ = SystemDpi();
     const bool borderless = IsBorderless(form_);
     // Neither style has a caption or a close box: a dialog's title is a
     // label of its own, and only its own buttons answer it.
-    ::CreateWindowExW(0, borderless ? kBorderlessClass : kDialogClass, form_.Caption().c_str(), WS_POPUP | WS_CLIPCHILDREN,
-                      TwipsToPixels(form_.Left(), dpi_), TwipsToPixels(form_.Top(), dpi_),
+    ::CreateWindowExW(0, borderless ? kBorderlessClass : kDialogClass, form_.Caption().c_str(),
+                      WS_POPUP | WS_CLIPCHILDREN, TwipsToPixels(form_.Left(), dpi_), TwipsToPixels(form_.Top(), dpi_),
                       TwipsToPixels(form_.Width(), dpi_), TwipsToPixels(form_.Height(), dpi_), nullptr, nullptr,
                       instance, this);
     if (!window_) return;
@@ -115,8 +116,8 @@ void FormWindow::TabIndexChanged(ControlWindow& control) {
     const auto found = std::find(tabOrder_.begin(), tabOrder_.end(), &control);
     if (found == tabOrder_.end()) return;
     tabOrder_.erase(found);
-    const auto place = std::min<std::size_t>(static_cast<std::size_t>(std::max<int>(control.Model().TabIndex(), 0)),
-                                             tabOrder_.size());
+    const auto place =
+        std::min<std::size_t>(static_cast<std::size_t>(std::max<int>(control.Model().TabIndex(), 0)), tabOrder_.size());
     tabOrder_.insert(tabOrder_.begin() + static_cast<std::ptrdiff_t>(place), &control);
     ApplyTabOrder();
 }
@@ -162,12 +163,13 @@ void FormWindow::FieldsMoved() {
 
 void FormWindow::SetToolTip(HWND child, const std::wstring& text) {
     if (child == nullptr || Handle() == nullptr) return;
-    if (!tipsReady_) {
+    if (!shown_) {
         waitingTips_[child] = text;
         return;
     }
     if (toolTips_ == nullptr) {
         if (text.empty()) return;
+        const StyledControlsScope styled;
         toolTips_ = ::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
                                       CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, Handle(), nullptr,
                                       ::GetModuleHandleW(nullptr), nullptr);
@@ -184,13 +186,14 @@ void FormWindow::SetToolTip(HWND child, const std::wstring& text) {
     ::SendMessageW(toolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
-void FormWindow::MakeWaitingToolTips() {
-    tipsReady_ = true;
+void FormWindow::FirstShown() {
+    shown_ = true;
     std::map<HWND, std::wstring> waiting;
     waiting.swap(waitingTips_);
     for (const auto& [child, text] : waiting) {
         if (::IsChild(Handle(), child)) SetToolTip(child, text);
     }
+    for (auto& control : controls_) control->FormShown();
 }
 
 void FormWindow::MakeFont() {
@@ -248,11 +251,11 @@ void FormWindow::ApplyVisible() {
         }
     }
     ::ShowWindow(Handle(), form_.Visible() ? SW_SHOW : SW_HIDE);
-    // Tips are only seen on a shown window: they are made once it has been
-    // drawn, so the window shows without waiting for the tip window.
-    if (form_.Visible() && !tipsReady_ && !tipsAsked_) {
-        tipsAsked_ = true;
-        ::PostMessageW(Handle(), kMakeToolTipsMessage, 0, 0);
+    // What only matters on screen (tips, drop targets) is made once the
+    // window has been drawn, so the window shows without waiting for it.
+    if (form_.Visible() && !shown_ && !firstShowingPosted_) {
+        firstShowingPosted_ = true;
+        ::PostMessageW(Handle(), kFirstShownMessage, 0, 0);
     }
 }
 
@@ -320,8 +323,8 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 1;
     }
     switch (message) {
-        case kMakeToolTipsMessage:
-            MakeWaitingToolTips();
+        case kFirstShownMessage:
+            FirstShown();
             return 0;
         case WM_PAINT:
             Paint();

@@ -52,6 +52,8 @@ public:
     // Shows the text as the tip of a child window; "" removes the tip. A tip
     // set before the form's window has first shown waits for that showing.
     void SetToolTip(HWND child, const std::wstring& text);
+    // True once the window has shown and been drawn.
+    bool HasShown() const { return shown_; }
 
     // Cuts every tie to the form and its controls and destroys the window.
     void Detach();
@@ -66,8 +68,9 @@ private:
     void CreateControls();
     void ApplyGeometry();
     void ApplyVisible();
-    // Gives the children the tips that waited for the first showing.
-    void MakeWaitingToolTips();
+    // The window has been drawn for the first time: the tips that waited
+    // for it are made, and the controls hear of it.
+    void FirstShown();
     void ApplyTopMost();
     void ApplyDpi(UINT dpi, const RECT* suggested);
     void MakeFont();
@@ -106,8 +109,8 @@ private:
     HWND toolTips_ = nullptr;
     // Tips by child window, set before the window first showed.
     std::map<HWND, std::wstring> waitingTips_;
-    bool tipsAsked_ = false;
-    bool tipsReady_ = false;
+    bool firstShowingPosted_ = false;
+    bool shown_ = false;
     // True while the form's own geometry is written to the window.
     bool placing_ = false;
     bool detached_ = false;

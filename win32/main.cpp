@@ -1,24 +1,19 @@
 // Quillstart.exe: one copy per session; the bar comes up and the program
 // lives in its message loop.
 #include <windows.h>
-#include <commctrl.h>
 
 #include "common/application.h"
 #include "startup/active_start.h"
 #include "dpi.h"
-#include "drop_target.h"
-#include "com.h"
+#include "ole_on_demand.h"
 #include "win32_backend.h"
 #include "win32_system.h"
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
     qs::win::EnablePerMonitorDpi();
     qs::win::Win32System system;
-    qs::win::ComScope com;
-    // Text dropped from other programs needs OLE, not COM alone.
-    qs::win::OleScope ole;
-    INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_STANDARD_CLASSES};
-    ::InitCommonControlsEx(&controls);
+    // Started by the first drop target or shell launch, ended at the exit.
+    qs::win::OleOnDemand ole;
 
     qs::Application app(system);
     qs::win::Win32Backend backend(instance);

@@ -1,13 +1,13 @@
 #include "picture_box_window.h"
 
 #include <windows.h>
-#include <commctrl.h>
 #include <windowsx.h>
 
 #include "art/catalogue.h"
 #include "dpi.h"
 #include "form_window.h"
 #include "picture_cache.h"
+#include "window_hook.h"
 #include "window_names.h"
 
 namespace qs::win {
@@ -51,7 +51,7 @@ void PictureBoxWindow::Create() {
 void PictureBoxWindow::MakeWindow() {
     CreateChild(PictureClass(), 0);
     if (Handle() == nullptr) return;
-    ::SetWindowSubclass(Handle(), PictureProc, 1, reinterpret_cast<DWORD_PTR>(this));
+    HookWindow(Handle(), PictureProc, this);
 }
 
 void PictureBoxWindow::OnChanged(ui::Property what) {
@@ -131,7 +131,7 @@ LRESULT PictureBoxWindow::HandlePicture(UINT message, WPARAM wParam, LPARAM lPar
         case WM_LBUTTONDBLCLK:
             Pressed(ui::LeftButton, wParam, lParam);
             // The tooltip listens further down the chain: it hides on a press.
-            return ::DefSubclassProc(window, message, wParam, lParam);
+            return CallOwnProcedure(window, message, wParam, lParam);
         case WM_RBUTTONDOWN:
         case WM_RBUTTONDBLCLK:
             Pressed(ui::RightButton, wParam, lParam);
@@ -147,27 +147,22 @@ LRESULT PictureBoxWindow::HandlePicture(UINT message, WPARAM wParam, LPARAM lPar
             return 0;
         case WM_MOUSEMOVE: {
             const UINT dpi = Form().Dpi();
-            const std::int16_t button = (wParam & MK_LBUTTON) != 0 ? ui::LeftButton
+            const std::int16_t button = (wParam & MK_LBUTTON) != 0   ? ui::LeftButton
                                         : (wParam & MK_RBUTTON) != 0 ? ui::RightButton
                                                                      : 0;
             picture_.UserMouseMove(button, ShiftState(wParam), PixelsToTwips(GET_X_LPARAM(lParam), dpi),
                                    PixelsToTwips(GET_Y_LPARAM(lParam), dpi));
             // The tooltip listens further down the chain for the pointer.
-            return ::DefSubclassProc(window, message, wParam, lParam);
+            return CallOwnProcedure(window, message, wParam, lParam);
         }
         default:
-            return ::DefSubclassProc(window, message, wParam, lParam);
+            return CallOwnProcedure(window, message, wParam, lParam);
     }
 }
 
-LRESULT CALLBACK PictureBoxWindow::PictureProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                               DWORD_PTR self) {
-    if (message == WM_NCDESTROY) {
-        ::RemoveWindowSubclass(window, PictureProc, 1);
-        return ::DefSubclassProc(window, message, wParam, lParam);
-    }
-    auto* picture = reinterpret_cast<PictureBoxWindow*>(self);
-    if (picture == nullptr || picture->Detached()) return ::DefSubclassProc(window, message, wParam, lParam);
+LRESULT PictureBoxWindow::PictureProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* self) {
+    auto* picture = static_cast<PictureBoxWindow*>(self);
+    if (picture == nullptr || picture->Detached()) return CallOwnProcedure(window, message, wParam, lParam);
     try {
         return picture->HandlePicture(message, wParam, lParam);
     } catch (...) {

@@ -20,8 +20,7 @@ protected:
     void OnChanged(ui::Property what) override;
 
 private:
-    static LRESULT CALLBACK PictureProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                        DWORD_PTR self);
+    static LRESULT PictureProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* self);
     void MakeWindow();
     LRESULT HandlePicture(UINT message, WPARAM wParam, LPARAM lParam);
     void Paint();

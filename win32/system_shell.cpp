@@ -8,12 +8,15 @@
 #include <vector>
 
 #include "common/text_case.h"
+#include "ole_on_demand.h"
 #include "system_error.h"
 #include "win32_system.h"
 
 namespace qs::win {
 
 std::int32_t Win32System::ShellOpen(const std::wstring& target) {
+    // The shell may hand the opening to extensions that need COM.
+    OleOnDemand::Start();
     const HINSTANCE result = ::ShellExecuteW(nullptr, L"open", target.c_str(), nullptr, nullptr, SW_SHOW);
     return static_cast<std::int32_t>(reinterpret_cast<INT_PTR>(result));
 }

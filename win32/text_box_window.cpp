@@ -1,12 +1,12 @@
 #include "text_box_window.h"
 
 #include <windows.h>
-#include <commctrl.h>
 
 #include <algorithm>
 #include <vector>
 
 #include "form_window.h"
+#include "window_hook.h"
 
 namespace qs::win {
 
@@ -33,15 +33,23 @@ void TextBoxWindow::Create() {
     if (box_.Locked()) style |= ES_READONLY;
     CreateChild(L"EDIT", style);
     if (Handle() == nullptr) return;
-    if (box_.AcceptsTextDrop()) drop_ = std::make_unique<TextDropRegistration>(Handle(), box_);
+    if (Form().HasShown()) AcceptDrops();
     // On a dialog the form draws a thin line round the box, so the text
     // keeps a little room from it.
     if (Form().Model().Style() == ui::FormStyle::Dialog) {
         const int room = ::MulDiv(4, static_cast<int>(Form().Dpi()), USER_DEFAULT_SCREEN_DPI);
         ::SendMessageW(Handle(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(room, room));
     }
-    ::SetWindowSubclass(Handle(), EditProc, 1, reinterpret_cast<DWORD_PTR>(this));
+    HookWindow(Handle(), EditProc, this);
     WriteText();
+}
+
+void TextBoxWindow::FormShown() { AcceptDrops(); }
+
+void TextBoxWindow::AcceptDrops() {
+    if (Handle() != nullptr && box_.AcceptsTextDrop() && !drop_) {
+        drop_ = std::make_unique<TextDropRegistration>(Handle(), box_);
+    }
 }
 
 RECT TextBoxWindow::PixelRect() const {
@@ -123,7 +131,7 @@ LRESULT TextBoxWindow::HandleChar(WPARAM wParam, LPARAM lParam) {
     // for them beyond KeyPress.
     if (!box_.MultiLine() && (key == 13 || key == 27)) return 0;
     const LRESULT result =
-        ::DefSubclassProc(window, WM_CHAR, static_cast<WPARAM>(static_cast<std::uint16_t>(key)), lParam);
+        CallOwnProcedure(window, WM_CHAR, static_cast<WPARAM>(static_cast<std::uint16_t>(key)), lParam);
     ReportSelection();
     return result;
 }
@@ -134,7 +142,7 @@ LRESULT TextBoxWindow::HandleEdit(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_CHAR:
             return HandleChar(wParam, lParam);
         case WM_LBUTTONDBLCLK: {
-            const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
+            const LRESULT result = CallOwnProcedure(window, message, wParam, lParam);
             ReportSelection();
             if (!Detached()) box_.DoubleClick();
             return result;
@@ -145,23 +153,20 @@ LRESULT TextBoxWindow::HandleEdit(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_LBUTTONUP:
         case WM_MOUSEMOVE:
         case WM_SETFOCUS: {
-            const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
+            const LRESULT result = CallOwnProcedure(window, message, wParam, lParam);
             ReportSelection();
             return result;
         }
         default:
-            return ::DefSubclassProc(window, message, wParam, lParam);
+            return CallOwnProcedure(window, message, wParam, lParam);
     }
 }
 
-LRESULT CALLBACK TextBoxWindow::EditProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                         DWORD_PTR self) {
-    if (message == WM_NCDESTROY) {
-        ::RemoveWindowSubclass(window, EditProc, 1);
-        return ::DefSubclassProc(window, message, wParam, lParam);
-    }
-    auto* box = reinterpret_cast<TextBoxWindow*>(self);
-    if (box == nullptr || box->Detached()) return ::DefSubclassProc(window, message, wParam, lParam);
+LRESULT TextBoxWindow::EditProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* self) {
+    auto* box = static_cast<TextBoxWindow*>(self);
+    // A drop target is taken back while its window still exists.
+    if (message == WM_DESTROY && box != nullptr) box->drop_.reset();
+    if (box == nullptr || box->Detached()) return CallOwnProcedure(window, message, wParam, lParam);
     try {
         return box->HandleEdit(message, wParam, lParam);
     } catch (...) {

@@ -18,6 +18,7 @@ public:
     void Create() override;
     void OnCommand(WORD code) override;
     bool TakesFocus() const override { return true; }
+    void FormShown() override;
 
 protected:
     void OnChanged(ui::Property what) override;
@@ -25,10 +26,11 @@ protected:
     HBRUSH DefaultBackground(HDC dc) override;
 
 private:
-    static LRESULT CALLBACK EditProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                     DWORD_PTR self);
+    static LRESULT EditProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* self);
     LRESULT HandleEdit(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT HandleChar(WPARAM wParam, LPARAM lParam);
+    // Takes text dropped from other programs, when the box accepts it.
+    void AcceptDrops();
     void WriteText();
     void WriteSelection();
     // Tells the control where the selection now is, if the window moved it.

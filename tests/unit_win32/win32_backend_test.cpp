@@ -4,6 +4,7 @@
 
 #include <windows.h>
 #include <commctrl.h>
+#include <ole2.h>
 
 #include <stdexcept>
 #include <string>
@@ -515,6 +516,74 @@ TEST_F(Win32BackendTest, ALoadEventThatUnloadsItsFormLeavesNoWindow) {
     EXPECT_FALSE(pane.IsLoaded());
     EXPECT_EQ(backend.WindowOf(pane), nullptr);
     EXPECT_EQ(::FindWindowW(nullptr, L"QuillstartRefusedPane"), nullptr);
+}
+
+// A drop target that takes nothing: only its registration is looked at.
+class RefusingDropTarget : public IDropTarget {
+public:
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+        if (id == IID_IUnknown || id == IID_IDropTarget) {
+            *object = static_cast<IDropTarget*>(this);
+            return S_OK;
+        }
+        *object = nullptr;
+        return E_NOINTERFACE;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
+    ULONG STDMETHODCALLTYPE Release() override { return 1; }
+    HRESULT STDMETHODCALLTYPE DragEnter(IDataObject*, DWORD, POINTL, DWORD* effect) override {
+        *effect = DROPEFFECT_NONE;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE DragOver(DWORD, POINTL, DWORD* effect) override {
+        *effect = DROPEFFECT_NONE;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE DragLeave() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE Drop(IDataObject*, DWORD, POINTL, DWORD* effect) override {
+        *effect = DROPEFFECT_NONE;
+        return S_OK;
+    }
+};
+
+TEST_F(Win32BackendTest, ABoxThatTakesDropsIsADropTargetOnceItsFormHasShownAndNoLongerOnceItsWindowIsGone) {
+    TestForm pane;
+    pane.SetCaption(L"QuillstartDropPane");
+    pane.Box.SetAcceptsTextDrop(true);
+    pane.SetBackend(&backend);
+    pane.Load();
+    const HWND shown = backend.WindowOf(pane);
+    ASSERT_NE(shown, nullptr);
+    const HWND box = ::FindWindowExW(shown, nullptr, L"EDIT", nullptr);
+    ASSERT_NE(box, nullptr);
+    ASSERT_TRUE(SUCCEEDED(::OleInitialize(nullptr)));
+    RefusingDropTarget other;
+    // Not yet shown: the box is no drop target, so another may register.
+    ASSERT_EQ(::RegisterDragDrop(box, &other), S_OK);
+    EXPECT_EQ(::RevokeDragDrop(box), S_OK);
+    pane.Show();
+    Pump();
+    EXPECT_EQ(::RegisterDragDrop(box, &other), DRAGDROP_E_ALREADYREGISTERED);
+    // The box's window is destroyed with its form: by the time its own
+    // handling of WM_DESTROY is done, its target has been taken back.
+    struct DestroyProbe {
+        RefusingDropTarget* other;
+        HRESULT afterDestroy = E_FAIL;
+    } probe{&other};
+    const SUBCLASSPROC onDestroy = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                      DWORD_PTR data) -> LRESULT {
+        const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
+        if (message != WM_DESTROY) return result;
+        auto* p = reinterpret_cast<DestroyProbe*>(data);
+        p->afterDestroy = ::RegisterDragDrop(window, p->other);
+        if (SUCCEEDED(p->afterDestroy)) ::RevokeDragDrop(window);
+        return result;
+    };
+    ASSERT_TRUE(::SetWindowSubclass(box, onDestroy, 7, reinterpret_cast<DWORD_PTR>(&probe)));
+    pane.Unload();
+    EXPECT_FALSE(::IsWindow(box));
+    EXPECT_EQ(probe.afterDestroy, S_OK);
+    ::OleUninitialize();
 }
 
 // Work that input waits for (the lists of a start) runs when the thread
