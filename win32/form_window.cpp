@@ -18,9 +18,10 @@ namespace {
 // Ids of the child windows start here; a timer's id is its control's id.
 constexpr int kFirstControlId = 100;
 
-// Posted to a form's window at its first showing, to make what only
-// matters on screen.
-constexpr UINT kFirstShownMessage = WM_APP + 1;
+// Set on a form's window at its first showing, to make what only matters on
+// screen: a timer's message comes only when no input and no painting waits,
+// so the user's first keys and the first paint go before that work.
+constexpr UINT_PTR kFirstShownTimer = 1;
 
 UINT SurfaceMessage() {
     static const UINT message = ::RegisterWindowMessageW(kSurfaceMessage);
@@ -255,7 +256,7 @@ void FormWindow::ApplyVisible() {
     // window has been drawn, so the window shows without waiting for it.
     if (form_.Visible() && !shown_ && !firstShowingPosted_) {
         firstShowingPosted_ = true;
-        ::PostMessageW(Handle(), kFirstShownMessage, 0, 0);
+        ::SetTimer(Handle(), kFirstShownTimer, USER_TIMER_MINIMUM, nullptr);
     }
 }
 
@@ -323,9 +324,6 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 1;
     }
     switch (message) {
-        case kFirstShownMessage:
-            FirstShown();
-            return 0;
         case WM_PAINT:
             Paint();
             return 0;
@@ -352,6 +350,11 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             }
             break;
         case WM_TIMER:
+            if (wParam == kFirstShownTimer) {
+                ::KillTimer(window, kFirstShownTimer);
+                FirstShown();
+                return 0;
+            }
             if (ControlWindow* control = ControlById(static_cast<int>(wParam))) {
                 control->OnTimer();
                 return 0;

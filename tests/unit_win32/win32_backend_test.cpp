@@ -339,9 +339,8 @@ TEST_F(Win32BackendTest, ToolTipTextBecomesATipOfTheControlsWindowOnceTheFormHas
     form.Button.SetToolTipText(L"");
     EXPECT_EQ(ThreadToolTips(), nullptr);
     form.Show();
-    Pump();
+    ASSERT_TRUE(qs::test::PumpUntil([] { return ThreadToolTips() != nullptr; }));
     const HWND tips = ThreadToolTips();
-    ASSERT_NE(tips, nullptr);
     EXPECT_EQ(::SendMessageW(tips, TTM_GETTOOLCOUNT, 0, 0), 1);
     wchar_t text[80] = {};
     TTTOOLINFOW tool{};
@@ -562,8 +561,12 @@ TEST_F(Win32BackendTest, ABoxThatTakesDropsIsADropTargetOnceItsFormHasShownAndNo
     ASSERT_EQ(::RegisterDragDrop(box, &other), S_OK);
     EXPECT_EQ(::RevokeDragDrop(box), S_OK);
     pane.Show();
-    Pump();
-    EXPECT_EQ(::RegisterDragDrop(box, &other), DRAGDROP_E_ALREADYREGISTERED);
+    HRESULT again = S_OK;
+    EXPECT_TRUE(qs::test::PumpUntil([&] {
+        again = ::RegisterDragDrop(box, &other);
+        if (SUCCEEDED(again)) ::RevokeDragDrop(box);
+        return again == DRAGDROP_E_ALREADYREGISTERED;
+    }));
     // The box's window is destroyed with its form: by the time its own
     // handling of WM_DESTROY is done, its target has been taken back.
     struct DestroyProbe {

@@ -15,6 +15,19 @@ inline void Pump() {
     }
 }
 
+// Runs the messages, timers' too, until the condition holds or two seconds
+// have gone; whether it held.
+template <typename Condition>
+bool PumpUntil(Condition condition) {
+    const DWORD until = ::GetTickCount() + 2000;
+    while (!condition()) {
+        if (::GetTickCount() > until) return false;
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
+        Pump();
+    }
+    return true;
+}
+
 inline std::wstring TextOf(HWND window) {
     wchar_t buffer[512] = {};
     ::GetWindowTextW(window, buffer, 512);
