@@ -52,13 +52,17 @@ BOOL CALLBACK FindTextBox(HWND child, LPARAM param) {
 }
 
 // The text of a window of another process, asked through its own thread,
-// which answers only between two of its messages.
-std::wstring TextOf(HWND window) {
-    wchar_t text[512] = {};
+// which answers only between two of its messages; false when it did not
+// answer, so that no failed call is ever taken for a change of text.
+bool ReadText(HWND window, std::wstring& text) {
+    wchar_t buffer[512] = {};
     DWORD_PTR copied = 0;
-    SendMessageTimeoutW(window, WM_GETTEXT, std::size(text), reinterpret_cast<LPARAM>(text), SMTO_BLOCK, 30000,
-                        &copied);
-    return text;
+    if (SendMessageTimeoutW(window, WM_GETTEXT, std::size(buffer), reinterpret_cast<LPARAM>(buffer), SMTO_BLOCK,
+                            30000, &copied) == 0) {
+        return false;
+    }
+    text = buffer;
+    return true;
 }
 
 class Process {
@@ -110,18 +114,23 @@ double Median(std::vector<double> values) {
     return n % 2 == 1 ? values[n / 2] : (values[n / 2 - 1] + values[n / 2]) / 2.0;
 }
 
-// Types one character into the window's text box and waits until the box
-// shows a change; the time then, or a negative number.
+// Types one character, a small "q", into the window's text box and waits
+// until the box shows it: the program may change the box's text itself while
+// it starts, so only the typed letter counts. The time then, or a negative
+// number.
 double TimeToFirstKeystroke(HWND window, LARGE_INTEGER start, LARGE_INTEGER frequency) {
     HWND box = nullptr;
     EnumChildWindows(window, FindTextBox, reinterpret_cast<LPARAM>(&box));
     if (box == nullptr) return -1;
-    const std::wstring before = TextOf(box);
+    std::wstring text;
+    if (!ReadText(box, text) || text.find(L'q') != std::wstring::npos) return -1;
     PostMessageW(box, WM_CHAR, L'q', 1);
     for (;;) {
+        // A read waits while the program is busy: the clock is read after it.
+        const bool read = ReadText(box, text);
         LARGE_INTEGER now;
         QueryPerformanceCounter(&now);
-        if (TextOf(box) != before) return Seconds(start, now, frequency) * 1000.0;
+        if (read && text.find(L'q') != std::wstring::npos) return Seconds(start, now, frequency) * 1000.0;
         if (Seconds(start, now, frequency) > 30.0) return -1;
         Sleep(1);
     }
