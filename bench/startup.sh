@@ -17,9 +17,10 @@
 # box and waits until the box shows it: "ready" is the time until the bar
 # takes its first keystroke, which waits for the lists to be whole. The
 # working set (GetProcessMemoryInfo) is read at the end of the measure, then
-# the process is ended, so nothing is ever saved. Prints every run, the
-# medians, their ratio to the empty window and the working sets. A figure,
-# never a pass/fail test.
+# the process is ended, so nothing is ever saved. For each list state the
+# empty window and Quillstart start in turn, run by run; prints every run,
+# the medians, their ratio to the empty window's median of the same runs and
+# the working sets. A figure, never a pass/fail test.
 # Usage: bash bench/startup.sh   (QS_BENCH_RUNS=9 runs each by default;
 #        QS_BENCH_LISTS="empty full spread" picks the list states, in order)
 set -euo pipefail
@@ -58,36 +59,32 @@ E2E_WORK=$work
 qs_start_wineserver
 e2e_seed_family C
 
-# Runs the stopwatch. Usage: measure RUNS PROGRAM TITLE OUTPUT [ready]
+# Runs the stopwatch once and appends "visible ready working-set" to OUTPUT
+# (ready is "-" for the empty window). Usage: measure PROGRAM TITLE OUTPUT [ready]
 measure() {
-  wine 'C:\bench\startwait.exe' "$1" "$2" "$3" ${5:-} >"$work/raw.out" 2>"$work/raw.err" || {
+  wine 'C:\bench\startwait.exe' 1 "$1" "$2" ${4:-} >"$work/raw.out" 2>"$work/raw.err" || {
     tr -d '\r' <"$work/raw.out"
-    echo "startup: $2 did not show its window" >&2
+    echo "startup: $1 did not show its window" >&2
     exit 1
   }
-  tr -d '\r' <"$work/raw.out" >"$4"
+  tr -d '\r' <"$work/raw.out" | awk '
+    /^median:/ { v = $2 } /^ready:/ { r = $2 } /^working set:/ { w = $3 }
+    END { print v, (r == "" ? "-" : r), w }' >>"$3"
 }
 
+# The median of one column of a measure file. Usage: median FILE COLUMN
 median() {
-  sed -n 's/^median: \([0-9.]*\) ms$/\1/p' "$1"
-}
-ready() {
-  sed -n 's/^ready: \([0-9.]*\) ms$/\1/p' "$1"
-}
-working_set() {
-  sed -n 's/^working set: \([0-9.-]*\) MB$/\1/p' "$1"
+  awk -v c="$2" '{ print $c }' "$1" | sort -g | awk '{ a[NR] = $1 } END {
+    if (NR % 2) print a[(NR + 1) / 2]; else printf "%.1f\n", (a[NR / 2] + a[NR / 2 + 1]) / 2 }'
 }
 
 echo "startup: display $DISPLAY, warm-up"
-measure 1 'C:\Quillstart\Quillstart.exe' Quillstart "$work/warm-quillstart.txt"
-measure 1 'C:\bench\empty_window.exe' 'Empty Window' "$work/warm-empty.txt"
+measure 'C:\Quillstart\Quillstart.exe' Quillstart "$work/warm.txt"
+measure 'C:\bench\empty_window.exe' 'Empty Window' "$work/warm.txt"
 
-echo "startup: empty_window.exe, $runs runs"
-measure "$runs" 'C:\bench\empty_window.exe' 'Empty Window' "$work/empty.txt"
-sed 's/^/  /' "$work/empty.txt"
-e=$(median "$work/empty.txt")
-e_ws=$(working_set "$work/empty.txt")
-
+# Each list state is measured with runs of the empty window and of
+# Quillstart taken in turn, so that a machine growing slower or faster
+# during the benchmark weighs on both alike.
 results=()
 for state in $list_states; do
   case "$state" in
@@ -98,20 +95,25 @@ for state in $list_states; do
       ;;
     *) echo "startup: unknown list state $state" >&2; exit 2 ;;
   esac
-  echo "startup: Quillstart.exe, $state lists, $runs runs"
-  measure 1 'C:\Quillstart\Quillstart.exe' Quillstart "$work/warm-$state.txt" ready
-  measure "$runs" 'C:\Quillstart\Quillstart.exe' Quillstart "$work/quillstart-$state.txt" ready
-  sed 's/^/  /' "$work/quillstart-$state.txt"
+  measure 'C:\Quillstart\Quillstart.exe' Quillstart "$work/warm.txt" ready
+  e_file=$work/empty-$state.txt
   q_file=$work/quillstart-$state.txt
-  results+=("$state $(median "$q_file") $(ready "$q_file") $(working_set "$q_file")")
+  echo "startup: $state lists, $runs runs of each in turn (visible ms, ready ms, working set MB)"
+  for i in $(seq "$runs"); do
+    measure 'C:\bench\empty_window.exe' 'Empty Window' "$e_file"
+    measure 'C:\Quillstart\Quillstart.exe' Quillstart "$q_file" ready
+    printf '  run %d: empty window %s | Quillstart %s\n' "$i" "$(tail -1 "$e_file")" "$(tail -1 "$q_file")"
+  done
+  results+=("$state $(median "$e_file" 1) $(median "$e_file" 3) $(median "$q_file" 1) $(median "$q_file" 2) $(median "$q_file" 3)")
 done
 
 echo
-echo "visible: the bar on screen; ready: the bar has taken its first keystroke"
-printf '%-28s %10s %8s %10s %8s %14s %12s\n' "program" "visible ms" "ratio" "ready ms" "ratio" "working set MB" "above empty"
-printf '%-28s %10s %8s %10s %8s %14s %12s\n' "empty_window.exe" "$e" "1.00" "-" "-" "$e_ws" "0.0"
+echo "medians; visible: the bar on screen; ready: the bar has taken its first keystroke;"
+echo "each ratio is to the empty window's visible time in the same runs"
+printf '%-14s %12s %10s %8s %10s %8s %14s %12s\n' "lists" "empty window" "visible" "ratio" "ready" "ratio" \
+  "working set MB" "above empty"
 for result in "${results[@]}"; do
-  read -r state q r q_ws <<<"$result"
-  awk -v s="Quillstart.exe, $state lists" -v q="$q" -v r="$r" -v e="$e" -v w="$q_ws" -v ew="$e_ws" \
-    'BEGIN { printf "%-28s %10s %8.2f %10s %8.2f %14s %12.1f\n", s, q, q / e, r, r / e, w, w - ew }'
+  read -r state e e_ws q r q_ws <<<"$result"
+  awk -v s="$state" -v e="$e" -v q="$q" -v r="$r" -v w="$q_ws" -v ew="$e_ws" \
+    'BEGIN { printf "%-14s %12s %10s %8.2f %10s %8.2f %14s %12.1f\n", s, e, q, q / e, r, r / e, w, w - ew }'
 done
