@@ -134,6 +134,66 @@ refusals_show_their_dialogs() {
   browse_expect_message 'The name you typed is listed name' 'Add Item'
 }
 
+# The row on screen of the folder box (the topmost list box) that shows the
+# folder of the given name, without its indent and compared without case:
+# its index less the index of the item at the box's top. Nothing when the
+# folder is not listed.
+browse_folder_row() {
+  want="$1" awk -F'\t' 'BEGIN { want = tolower(ENVIRON["want"]) }
+    $1 ~ /^child=/ { list = ($1 == "child=ListBox" && $2 == 1); if (list) { split($3, r, ","); top = r[2] + 0; n++ } }
+    $1 ~ /^first=/ && list { first = substr($1, 7) + 0 }
+    $1 ~ /^item=/ && list { name = $2; gsub(/^ +| +$/, "", name)
+      if (tolower(name) == want) { row[n] = substr($1, 6) - first; tops[n] = top } }
+    END { best = ""; for (i in row) if (best == "" || tops[i] < tops[best]) best = i; if (best != "") print row[best] }' \
+    <<<"$E2E_CHILDREN"
+}
+
+# Double-clicks the folder of the folder box with the given name; a folder
+# listed below the box's last row is first scrolled into view from the
+# keyboard (End, as the Windows folder is last of the root's).
+browse_open_folder() {
+  local row rect row_height=$((12 * ${QS_DPI:-96} / 96)) rows l t r b
+  browse_children QuillstartDialog || return 1
+  row=$(browse_folder_row "$1")
+  [ -n "$row" ] || e2e_fail "the folder box shows no folder $1" || return 1
+  rect=$(browse_child_rect ListBox '' 1)
+  IFS=, read -r l t r b <<<"$rect"
+  rows=$(((b - t - 4) / row_height))
+  if [ "$row" -ge "$rows" ]; then
+    xdotool mousemove $(((l + r) / 2)) $((t + 2 + row_height / 2)) click 1
+    xdotool key End
+    browse_children QuillstartDialog || return 1
+    row=$(browse_folder_row "$1")
+  fi
+  rect=$(browse_child_rect ListBox '' 1)
+  IFS=, read -r l t r b <<<"$rect"
+  xdotool mousemove $(((l + r) / 2)) $((t + 2 + row_height * row + row_height / 2)) click --repeat 2 --delay 80 1
+}
+
+browse_folder_listed() {
+  browse_children QuillstartDialog && [ -n "$(browse_folder_row "$1")" ]
+}
+
+browse_no_message() {
+  ! browse_message_says "$1"
+}
+
+# Walking the folder box into the Windows folder is refused with its message
+# once; a second try bounces back without a word; the box stays where it was.
+system_folder_bounces_back() {
+  browse_open 0 || return 1
+  browse_open_folder 'C:\' || return 1
+  qs_poll 10 browse_folder_listed windows || e2e_fail "the folder box did not open C:\\" || return 1
+  browse_open_folder windows || return 1
+  browse_expect_message 'System Folder or any File/Folder in it can not be opened' 'Add Item' || return 1
+  qs_poll 10 browse_folder_listed windows || e2e_fail "the folder box did not come back to C:\\" || return 1
+  browse_open_folder windows || return 1
+  # The second refusal is silent: the pane stays the only dialog and the
+  # box stays on C:\ for as long as a message would take to show.
+  ! qs_poll 3 browse_message_says 'System Folder' || e2e_fail "the second try showed the message again" || return 1
+  browse_folder_listed windows || e2e_fail "the second try left C:\\"
+}
+
 # Open lists every file; choosing notes.txt and the Open button opens it.
 open_runs_a_file() {
   browse_open 1 || return 1
@@ -157,3 +217,5 @@ e2e_scenario 'a Program chosen in the Add Item pane and named runs by p- and is 
 e2e_scenario 'an unsafe extension, a listed path and a listed name are refused with their dialogs' \
   refusals_show_their_dialogs browse_start
 e2e_scenario 'the Open pane runs the chosen file' open_runs_a_file browse_start
+e2e_scenario 'walking into the Windows folder is refused once with its message, then silently' \
+  system_folder_bounces_back browse_start

@@ -5,7 +5,11 @@
 //   title=<title>
 //   owner=<title of the owner window, or empty>
 //   child=<class>\t<visible 0|1>\t<left>,<top>,<right>,<bottom>\t<text>
-// for every child window, the text read with WM_GETTEXT and its carriage
+// for every child window, and after a list box's line
+//   first=<index of the item shown at its top>
+//   item=<index>\t<text>
+// for each of its items, the text read with WM_GETTEXT (LB_GETTEXT for an
+// item) and its carriage
 // returns and line feeds written as \r and \n. Exit code 0 when found, 2 when
 // no such window is shown.
 #include <windows.h>
@@ -66,12 +70,33 @@ void PrintRect(const char* prefix, HWND window) {
     std::printf("%s%ld,%ld,%ld,%ld", prefix, r.left, r.top, r.right, r.bottom);
 }
 
+void PrintItems(HWND list) {
+    DWORD_PTR first = 0;
+    if (!SendMessageTimeoutW(list, LB_GETTOPINDEX, 0, 0, SMTO_ABORTIFHUNG, 2000, &first)) return;
+    std::printf("first=%u\n", static_cast<unsigned>(first));
+    DWORD_PTR count = 0;
+    if (!SendMessageTimeoutW(list, LB_GETCOUNT, 0, 0, SMTO_ABORTIFHUNG, 2000, &count)) return;
+    for (DWORD_PTR i = 0; i < count && i < 1000; ++i) {
+        DWORD_PTR length = 0;
+        if (!SendMessageTimeoutW(list, LB_GETTEXTLEN, i, 0, SMTO_ABORTIFHUNG, 2000, &length) || length > 4096) return;
+        std::wstring text(length + 1, L'\0');
+        DWORD_PTR copied = 0;
+        if (!SendMessageTimeoutW(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(text.data()), SMTO_ABORTIFHUNG, 2000,
+                                 &copied)) {
+            return;
+        }
+        text.resize(copied);
+        std::printf("item=%u\t%s\n", static_cast<unsigned>(i), qs::tools::ToUtf8(OneLine(text)).c_str());
+    }
+}
+
 BOOL CALLBACK PrintChild(HWND child, LPARAM) {
     wchar_t cls[128] = {};
     GetClassNameW(child, cls, static_cast<int>(std::size(cls)));
     std::printf("child=%s\t%d\t", qs::tools::ToUtf8(cls).c_str(), IsWindowVisible(child) ? 1 : 0);
     PrintRect("", child);
     std::printf("\t%s\n", qs::tools::ToUtf8(OneLine(WindowText(child))).c_str());
+    if (_wcsicmp(cls, L"ListBox") == 0) PrintItems(child);
     return TRUE;
 }
 
