@@ -13,44 +13,59 @@ bool Tested(const ListFileOfLoad& file) { return file.group < 3; }
 }  // namespace
 
 ListFileReads::ListFileReads(const Application& app, std::function<void()> finished)
-    : files_(ListFilesOfLoad(app)), slots_(files_.size()), finished_(std::move(finished)) {
+    : app_(app),
+      files_(ListFilesOfLoad(app)),
+      slots_(files_.size()),
+      finished_(std::move(finished)),
+      filesLeft_(files_.size()) {
     try {
-        thread_ = std::thread([this, &app] { Run(app); });
+        thread_ = std::thread([this] { Run(); });
     } catch (const std::system_error&) {
-        Run(app);  // no thread to be had: read and test here
+        Run();  // no thread to be had: read and test here
     }
 }
 
 ListFileReads::~ListFileReads() { Wait(); }
 
-void ListFileReads::Run(const Application& app) {
+void ListFileReads::Run() {
     for (std::size_t i = 0; i < files_.size(); ++i) {
-        Read(app, i);
+        Read(i);
         {
             const std::lock_guard<std::mutex> lock(mutex_);
             filesRead_ = i + 1;
         }
         fileRead_.notify_all();
     }
-    for (std::size_t i = 0; i < files_.size(); ++i) {
-        if (Tested(files_[i]) && slots_[i].records) Test(app, i);
+    if (files_.empty()) {
+        if (finished_) finished_();
+        return;
     }
-    if (finished_) finished_();
+    TestUntakenFiles();
 }
 
-void ListFileReads::Read(const Application& app, std::size_t i) {
+void ListFileReads::TestUntakenFiles() {
+    for (;;) {
+        const std::size_t i = nextFile_.fetch_add(1);
+        if (i >= files_.size()) return;
+        if (Tested(files_[i]) && slots_[i].records) Test(i);
+        // Whoever answers the last file tells the end.
+        if (filesLeft_.fetch_sub(1) == 1 && finished_) finished_();
+    }
+}
+
+void ListFileReads::Read(std::size_t i) {
     try {
-        slots_[i].records = ReadListFile(app, files_[i]);
+        slots_[i].records = ReadListFile(app_, files_[i]);
     } catch (...) {
         slots_[i].readFailure = std::current_exception();
     }
 }
 
-void ListFileReads::Test(const Application& app, std::size_t i) {
+void ListFileReads::Test(std::size_t i) {
     Slot& slot = slots_[i];
     try {
         const std::vector<std::wstring_view> targets = TargetViews(slot.records->targets);
-        slot.passes = files_[i].group == 1 ? app.sys.FoldersExist(targets) : app.sys.FilesExist(targets);
+        slot.passes = files_[i].group == 1 ? app_.sys.FoldersExist(targets) : app_.sys.FilesExist(targets);
     } catch (...) {
         slot.testFailure = std::current_exception();
     }
@@ -68,6 +83,14 @@ const std::optional<ReadRecords>& ListFileReads::Records(std::size_t i) {
 }
 
 void ListFileReads::Wait() {
+    // The waiting thread has nothing else to do: once every file is read it
+    // tests the files the reading thread has not taken yet, on a core of
+    // its own.
+    {
+        std::unique_lock<std::mutex> lock(mutex_);
+        fileRead_.wait(lock, [this] { return filesRead_ == files_.size(); });
+    }
+    TestUntakenFiles();
     if (thread_.joinable()) thread_.join();
 }
 

@@ -5,7 +5,9 @@
 // file, whether the File, Folder and Program targets are there. The load
 // takes each file as soon as it is read, in its own order, and the answers
 // once they are all in; one thread, because the window thread needs the
-// other core of a small machine.
+// other core of a small machine while it makes the windows. A thread that
+// waits for the answers tests the files not yet taken meanwhile.
+#include <atomic>
 #include <condition_variable>
 #include <cstddef>
 #include <exception>
@@ -22,9 +24,10 @@ namespace qs {
 class ListFileReads {
 public:
     // Starts on the files of the load as the settings stand now; `finished`
-    // is called once, on the reading thread, when every answer is in. Only
-    // the program's place and the system are used off the window thread,
-    // and neither changes while a load is under way.
+    // is called once, on the thread that found the last answer, when every
+    // answer is in. Only the program's place and the system are used off the
+    // window thread, and neither changes while a load is under way; the
+    // system's bulk tests may run on two threads at once.
     ListFileReads(const Application& app, std::function<void()> finished);
     ListFileReads(const ListFileReads&) = delete;
     ListFileReads& operator=(const ListFileReads&) = delete;
@@ -35,7 +38,7 @@ public:
     // Waits until file `i` is read: its records, or none when there was no
     // such file; throws what the reading threw.
     const std::optional<ReadRecords>& Records(std::size_t i);
-    // Waits until every answer is in.
+    // Waits until every answer is in, testing files meanwhile.
     void Wait();
     // After Wait: the answers for the targets of file `i`, a File, Folder or
     // Program file that was read; throws what the system threw.
@@ -49,16 +52,22 @@ private:
         std::exception_ptr testFailure;
     };
 
-    void Run(const Application& app);
-    void Read(const Application& app, std::size_t i);
-    void Test(const Application& app, std::size_t i);
+    void Run();
+    void Read(std::size_t i);
+    void Test(std::size_t i);
+    // Tests file after file not yet taken by another thread, until none is left.
+    void TestUntakenFiles();
 
+    const Application& app_;
     std::vector<ListFileOfLoad> files_;
     std::vector<Slot> slots_;
     std::function<void()> finished_;
     std::mutex mutex_;
     std::condition_variable fileRead_;
     std::size_t filesRead_ = 0;
+    // The next file to be taken for testing, and the files not yet answered.
+    std::atomic<std::size_t> nextFile_ = 0;
+    std::atomic<std::size_t> filesLeft_;
     std::thread thread_;
 };
 

@@ -5,8 +5,13 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
+#include <condition_variable>
 #include <filesystem>
+#include <mutex>
+#include <set>
 #include <stdexcept>
+#include <thread>
 
 #include "data/launch_list.h"
 #include "data/list_file_reads.h"
@@ -120,6 +125,53 @@ TEST(ListFileReads, AFileWhoseSystemCallThrowsGivesTheFailureWhenItsAnswersAreAs
     reads.Wait();
     EXPECT_THROW(reads.Passes(0), std::runtime_error);
     EXPECT_EQ(reads.Passes(1), std::vector<bool>{true});
+}
+
+// A system whose bulk tests each wait, up to two seconds, for a second bulk
+// test to be under way at the same time, and note the threads that call.
+struct MeetingSystem : FakeSystem {
+    std::mutex mutex;
+    std::condition_variable met;
+    int inside = 0;
+    bool twoAtOnce = false;
+    std::set<std::thread::id> callers;
+    std::vector<bool> FilesExist(const std::vector<std::wstring_view>& paths) override {
+        Meet();
+        return FakeSystem::FilesExist(paths);
+    }
+    std::vector<bool> FoldersExist(const std::vector<std::wstring_view>& paths) override {
+        Meet();
+        return FakeSystem::FoldersExist(paths);
+    }
+    void Meet() {
+        std::unique_lock<std::mutex> lock(mutex);
+        callers.insert(std::this_thread::get_id());
+        if (++inside == 2) twoAtOnce = true;
+        met.notify_all();
+        met.wait_for(lock, std::chrono::seconds(2), [this] { return twoAtOnce; });
+        --inside;
+    }
+};
+
+TEST(ListFileReads, TheThreadThatWaitsTestsFilesAlongsideTheReadingThread) {
+    MeetingSystem sys;
+    Application app(sys);
+    SetUpFixedDiskRun(sys, app);
+    std::filesystem::create_directories(sys.HostPath(L"C:\\Work"));
+    sys.PutFile(app.place.FileListFile, ListFileBytes({{"plan", "C:\\plan.txt"}}));
+    sys.PutFile(app.place.FileListFold, ListFileBytes({{"work", "C:\\Work"}}));
+    sys.PutFile(app.place.FileListProg, ListFileBytes({{"edit", "C:\\edit.exe"}}));
+    StoreListCounts(app.settings, {.file = 0, .folder = 0, .program = 0});
+    std::atomic<int> ends = 0;
+    ListFileReads reads(app, [&ends] { ++ends; });
+    reads.Wait();
+    EXPECT_TRUE(sys.twoAtOnce);
+    EXPECT_EQ(sys.callers.size(), 2u);
+    EXPECT_EQ(sys.callers.count(std::this_thread::get_id()), 1u);
+    EXPECT_EQ(ends.load(), 1);
+    EXPECT_EQ(reads.Passes(0), std::vector<bool>{false});
+    EXPECT_EQ(reads.Passes(1), std::vector<bool>{true});
+    EXPECT_EQ(reads.Passes(2), std::vector<bool>{false});
 }
 
 TEST(DeferredListLoad, TestedGroupsWaitForTheFirstInputWhileEmailAndWebAreFilledAtOnce) {
