@@ -106,6 +106,15 @@ TEST(ListFileReads, NoFilesToReadTellTheEndAsWell) {
     EXPECT_THROW(reads.Records(0), std::out_of_range);
 }
 
+// A fixed-disk run with a File list naming a missing file and a Folder list
+// naming a folder that is there.
+void SeedPlanAndWork(FakeSystem& sys, Application& app) {
+    SetUpFixedDiskRun(sys, app);
+    std::filesystem::create_directories(sys.HostPath(L"C:\\Work"));
+    sys.PutFile(app.place.FileListFile, ListFileBytes({{"plan", "C:\\plan.txt"}}));
+    sys.PutFile(app.place.FileListFold, ListFileBytes({{"work", "C:\\Work"}}));
+}
+
 // A system whose bulk file test breaks, as one out of memory would.
 struct BreakingBulkSystem : FakeSystem {
     std::vector<bool> FilesExist(const std::vector<std::wstring_view>&) override {
@@ -116,10 +125,7 @@ struct BreakingBulkSystem : FakeSystem {
 TEST(ListFileReads, AFileWhoseSystemCallThrowsGivesTheFailureWhenItsAnswersAreAsked) {
     BreakingBulkSystem sys;
     Application app(sys);
-    SetUpFixedDiskRun(sys, app);
-    std::filesystem::create_directories(sys.HostPath(L"C:\\Work"));
-    sys.PutFile(app.place.FileListFile, ListFileBytes({{"plan", "C:\\plan.txt"}}));
-    sys.PutFile(app.place.FileListFold, ListFileBytes({{"work", "C:\\Work"}}));
+    SeedPlanAndWork(sys, app);
     StoreListCounts(app.settings, {.file = 0, .folder = 0});
     ListFileReads reads(app, {});
     reads.Wait();
@@ -156,10 +162,7 @@ struct MeetingSystem : FakeSystem {
 TEST(ListFileReads, TheThreadThatWaitsTestsFilesAlongsideTheReadingThread) {
     MeetingSystem sys;
     Application app(sys);
-    SetUpFixedDiskRun(sys, app);
-    std::filesystem::create_directories(sys.HostPath(L"C:\\Work"));
-    sys.PutFile(app.place.FileListFile, ListFileBytes({{"plan", "C:\\plan.txt"}}));
-    sys.PutFile(app.place.FileListFold, ListFileBytes({{"work", "C:\\Work"}}));
+    SeedPlanAndWork(sys, app);
     sys.PutFile(app.place.FileListProg, ListFileBytes({{"edit", "C:\\edit.exe"}}));
     StoreListCounts(app.settings, {.file = 0, .folder = 0, .program = 0});
     std::atomic<int> ends = 0;

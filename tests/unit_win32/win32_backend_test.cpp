@@ -52,6 +52,13 @@ public:
     qs::ui::Label Caption;
 };
 
+// The edit box of the form's window when that window is shown; none otherwise.
+HWND EditOfShownForm(const qs::win::Win32Backend& backend, const qs::ui::Form& form) {
+    const HWND shown = backend.WindowOf(form);
+    if (shown == nullptr || !::IsWindowVisible(shown)) return nullptr;
+    return ::FindWindowExW(shown, nullptr, L"EDIT", nullptr);
+}
+
 class Win32BackendTest : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -436,12 +443,10 @@ TEST_F(Win32BackendTest, AFormWhoseWindowWaitsForItsShowingHasNoneUntilShownThen
     EXPECT_EQ(::FindWindowW(nullptr, L"QuillstartWaitingPane"), nullptr);
     pane.Box.SetText(L"written while it had no window");
     pane.Show();
-    const HWND shown = backend.WindowOf(pane);
-    ASSERT_NE(shown, nullptr);
-    EXPECT_TRUE(::IsWindowVisible(shown));
-    const HWND box = ::FindWindowExW(shown, nullptr, L"EDIT", nullptr);
+    const HWND box = EditOfShownForm(backend, pane);
     ASSERT_NE(box, nullptr);
     EXPECT_EQ(TextOf(box), L"written while it had no window");
+    const HWND shown = ::GetParent(box);
     pane.Unload();
     EXPECT_FALSE(::IsWindow(shown));
 }
@@ -491,12 +496,10 @@ TEST_F(Win32BackendTest, TheWindowOfAFormIsMadeAsItsLoadEventLeftIt) {
     pane.SetBackend(&backend);
     pane.Load();
     EXPECT_EQ(duringLoad, nullptr);
-    const HWND shown = backend.WindowOf(pane);
-    ASSERT_NE(shown, nullptr);
-    EXPECT_TRUE(::IsWindowVisible(shown));
-    const HWND box = ::FindWindowExW(shown, nullptr, L"EDIT", nullptr);
+    const HWND box = EditOfShownForm(backend, pane);
     ASSERT_NE(box, nullptr);
     EXPECT_EQ(TextOf(box), L"set by the Load event");
+    const HWND shown = ::GetParent(box);
     const HWND button = ::FindWindowExW(shown, nullptr, L"BUTTON", nullptr);
     ASSERT_NE(button, nullptr);
     RECT place{};
