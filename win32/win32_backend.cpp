@@ -56,16 +56,18 @@ void Win32Backend::FormShowing(ui::Form& form) {
 }
 
 void Win32Backend::FormUnloaded(ui::Form& form) {
-    if (waiting_.erase(&form) != 0) return;
-    const auto found = windows_.find(&form);
-    if (found == windows_.end()) return;
-    // The form may be unloaded from inside one of its own window's messages,
-    // so the peer object lives on until that message has returned.
-    found->second->Detach();
-    unloaded_.push_back(std::move(found->second));
-    windows_.erase(found);
-    // As with every program of its kind: when no form is left, the program ends.
-    if (windows_.empty()) ::PostQuitMessage(0);
+    if (waiting_.erase(&form) == 0) {
+        const auto found = windows_.find(&form);
+        if (found == windows_.end()) return;
+        // The form may be unloaded from inside one of its own window's
+        // messages, so the peer object lives on until that message has returned.
+        found->second->Detach();
+        unloaded_.push_back(std::move(found->second));
+        windows_.erase(found);
+    }
+    // As with every program of its kind: when no form is left loaded, the
+    // program ends; a loaded form still waiting for its window counts.
+    if (windows_.empty() && waiting_.empty()) ::PostQuitMessage(0);
 }
 
 HWND Win32Backend::WindowOf(const ui::Form& form) const {

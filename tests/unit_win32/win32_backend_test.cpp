@@ -296,6 +296,18 @@ TEST_F(Win32BackendTest, UnloadDestroysTheWindowAndDetachesThePeers) {
     EXPECT_TRUE(::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
 }
 
+TEST_F(Win32BackendTest, AFormLoadedWithoutAWindowKeepsTheProgramGoingWhenTheLastWindowGoes) {
+    TestForm holder;
+    holder.SetWindowWaitsForShow(true);
+    holder.SetBackend(&backend);
+    holder.Load();
+    form.Unload();
+    MSG message;
+    EXPECT_FALSE(::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    holder.Unload();
+    EXPECT_TRUE(::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+}
+
 TEST_F(Win32BackendTest, UserMoveIsReportedInTwips) {
     form.Show();
     const UINT dpi = qs::win::WindowDpi(window);
