@@ -1,8 +1,11 @@
 // Real windows for a form: properties mirrored, input fed back, timers,
 // the modal loop.
+#include "win32_backend.h"
+
 #include <gtest/gtest.h>
 
 #include <windows.h>
+
 #include <commctrl.h>
 #include <ole2.h>
 
@@ -11,6 +14,7 @@
 #include <thread>
 #include <vector>
 
+#include "backend_test_form.h"
 #include "dpi.h"
 #include "handles.h"
 #include "ui/command_button.h"
@@ -19,7 +23,6 @@
 #include "ui/list_box.h"
 #include "ui/text_box.h"
 #include "ui/timer.h"
-#include "win32_backend.h"
 #include "win32_system.h"
 #include "window_names.h"
 #include "window_test_support.h"
@@ -29,55 +32,8 @@ namespace {
 using qs::test::Pump;
 using qs::test::TextOf;
 
-class TestForm : public qs::ui::Form {
-public:
-    explicit TestForm(qs::ui::FormStyle style = qs::ui::FormStyle::Borderless)
-        : Form(L"frmTest", style),
-          Box(*this, L"TextBox1"),
-          Tick(*this, L"Timer1", 20),
-          Button(*this, L"Command1"),
-          HiddenList(*this, L"List1", true),
-          Caption(*this, L"Label1", L"Count 1234") {
-        SetCaption(L"QuillstartBackendTest");
-        Move(1500, 1500, 6000, 600);
-        Box.Move(720, 0, 1812, 372);
-        Button.Move(3000, 0, 900, 300);
-        HiddenList.SetVisible(false);
-        Caption.Move(4200, 0, 1500, 300);
-    }
-    qs::ui::TextBox Box;
-    qs::ui::Timer Tick;
-    qs::ui::CommandButton Button;
-    qs::ui::ListBox HiddenList;
-    qs::ui::Label Caption;
-};
-
-// The edit box of the form's window when that window is shown; none otherwise.
-HWND EditOfShownForm(const qs::win::Win32Backend& backend, const qs::ui::Form& form) {
-    const HWND shown = backend.WindowOf(form);
-    if (shown == nullptr || !::IsWindowVisible(shown)) return nullptr;
-    return ::FindWindowExW(shown, nullptr, L"EDIT", nullptr);
-}
-
-class Win32BackendTest : public ::testing::Test {
-protected:
-    void SetUp() override {
-        // A quit left by an earlier test's last unload must not end this one's loops.
-        Pump();
-        form.SetBackend(&backend);
-        form.Load();
-        window = backend.WindowOf(form);
-        ASSERT_NE(window, nullptr);
-        edit = ::FindWindowExW(window, nullptr, L"EDIT", nullptr);
-        ASSERT_NE(edit, nullptr);
-    }
-    void TearDown() override { form.Unload(); }
-
-    qs::win::Win32Backend backend{::GetModuleHandleW(nullptr)};
-    TestForm form;
-    HWND window = nullptr;
-    HWND edit = nullptr;
-};
+using qs::test::TestForm;
+using qs::test::Win32BackendTest;
 
 TEST_F(Win32BackendTest, WindowCarriesTheCaptionAndTheBorderlessClass) {
     EXPECT_EQ(TextOf(window), L"QuillstartBackendTest");
@@ -444,165 +400,6 @@ TEST_F(Win32BackendTest, TabMovesTheFocusToTheNextControlAndBack) {
 }
 
 }  // namespace
-
-TEST_F(Win32BackendTest, AFormWhoseWindowWaitsForItsShowingHasNoneUntilShownThenShowsItsState) {
-    TestForm pane;
-    pane.SetCaption(L"QuillstartWaitingPane");
-    pane.SetWindowWaitsForShow(true);
-    pane.SetBackend(&backend);
-    pane.Load();
-    EXPECT_EQ(backend.WindowOf(pane), nullptr);
-    EXPECT_EQ(::FindWindowW(nullptr, L"QuillstartWaitingPane"), nullptr);
-    pane.Box.SetText(L"written while it had no window");
-    pane.Show();
-    const HWND box = EditOfShownForm(backend, pane);
-    ASSERT_NE(box, nullptr);
-    EXPECT_EQ(TextOf(box), L"written while it had no window");
-    const HWND shown = ::GetParent(box);
-    pane.Unload();
-    EXPECT_FALSE(::IsWindow(shown));
-}
-
-TEST_F(Win32BackendTest, AWaitingFormUnloadedBeforeItsShowingLeavesNothingBehind) {
-    TestForm pane;
-    pane.SetWindowWaitsForShow(true);
-    pane.SetBackend(&backend);
-    pane.Load();
-    pane.Unload();
-    pane.Load();
-    EXPECT_EQ(backend.WindowOf(pane), nullptr);
-    pane.Show();
-    EXPECT_NE(backend.WindowOf(pane), nullptr);
-    pane.Unload();
-}
-
-TEST_F(Win32BackendTest, ControlsWhoseTabIndexesReverseTheirOrderAreTabbedByIndex) {
-    TestForm pane;
-    pane.SetCaption(L"QuillstartTabPane");
-    pane.Button.SetTabIndex(0);
-    pane.Box.SetTabIndex(1);
-    pane.SetBackend(&backend);
-    pane.Load();
-    const HWND shown = backend.WindowOf(pane);
-    ASSERT_NE(shown, nullptr);
-    const HWND button = ::FindWindowExW(shown, nullptr, L"BUTTON", nullptr);
-    const HWND box = ::FindWindowExW(shown, nullptr, L"EDIT", nullptr);
-    ASSERT_NE(button, nullptr);
-    ASSERT_NE(box, nullptr);
-    EXPECT_EQ(::GetWindow(shown, GW_CHILD), button);
-    EXPECT_EQ(::GetNextDlgTabItem(shown, button, FALSE), box);
-    EXPECT_EQ(::GetNextDlgTabItem(shown, box, FALSE), button);
-    pane.Unload();
-}
-
-TEST_F(Win32BackendTest, TheWindowOfAFormIsMadeAsItsLoadEventLeftIt) {
-    TestForm pane;
-    pane.SetCaption(L"QuillstartLoadedPane");
-    HWND duringLoad = reinterpret_cast<HWND>(1);
-    pane.LoadEvent = [&] {
-        duringLoad = backend.WindowOf(pane);
-        pane.Box.SetText(L"set by the Load event");
-        pane.Button.Move(300, 0, 900, 300);
-        pane.Show();
-    };
-    pane.SetBackend(&backend);
-    pane.Load();
-    EXPECT_EQ(duringLoad, nullptr);
-    const HWND box = EditOfShownForm(backend, pane);
-    ASSERT_NE(box, nullptr);
-    EXPECT_EQ(TextOf(box), L"set by the Load event");
-    const HWND shown = ::GetParent(box);
-    const HWND button = ::FindWindowExW(shown, nullptr, L"BUTTON", nullptr);
-    ASSERT_NE(button, nullptr);
-    RECT place{};
-    ::GetWindowRect(button, &place);
-    ::MapWindowPoints(HWND_DESKTOP, shown, reinterpret_cast<POINT*>(&place), 2);
-    EXPECT_EQ(place.left, qs::win::TwipsToPixels(300, qs::win::WindowDpi(shown)));
-    pane.Unload();
-}
-
-TEST_F(Win32BackendTest, ALoadEventThatUnloadsItsFormLeavesNoWindow) {
-    TestForm pane;
-    pane.SetCaption(L"QuillstartRefusedPane");
-    pane.LoadEvent = [&pane] { pane.Unload(); };
-    pane.SetBackend(&backend);
-    pane.Load();
-    EXPECT_FALSE(pane.IsLoaded());
-    EXPECT_EQ(backend.WindowOf(pane), nullptr);
-    EXPECT_EQ(::FindWindowW(nullptr, L"QuillstartRefusedPane"), nullptr);
-}
-
-// A drop target that takes nothing: only its registration is looked at.
-class RefusingDropTarget : public IDropTarget {
-public:
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-        if (id == IID_IUnknown || id == IID_IDropTarget) {
-            *object = static_cast<IDropTarget*>(this);
-            return S_OK;
-        }
-        *object = nullptr;
-        return E_NOINTERFACE;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
-    ULONG STDMETHODCALLTYPE Release() override { return 1; }
-    HRESULT STDMETHODCALLTYPE DragEnter(IDataObject*, DWORD, POINTL, DWORD* effect) override {
-        *effect = DROPEFFECT_NONE;
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE DragOver(DWORD, POINTL, DWORD* effect) override {
-        *effect = DROPEFFECT_NONE;
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE DragLeave() override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE Drop(IDataObject*, DWORD, POINTL, DWORD* effect) override {
-        *effect = DROPEFFECT_NONE;
-        return S_OK;
-    }
-};
-
-TEST_F(Win32BackendTest, ABoxThatTakesDropsIsADropTargetOnceItsFormHasShownAndNoLongerOnceItsWindowIsGone) {
-    TestForm pane;
-    pane.SetCaption(L"QuillstartDropPane");
-    pane.Box.SetAcceptsTextDrop(true);
-    pane.SetBackend(&backend);
-    pane.Load();
-    const HWND shown = backend.WindowOf(pane);
-    ASSERT_NE(shown, nullptr);
-    const HWND box = ::FindWindowExW(shown, nullptr, L"EDIT", nullptr);
-    ASSERT_NE(box, nullptr);
-    ASSERT_TRUE(SUCCEEDED(::OleInitialize(nullptr)));
-    RefusingDropTarget other;
-    // Not yet shown: the box is no drop target, so another may register.
-    ASSERT_EQ(::RegisterDragDrop(box, &other), S_OK);
-    EXPECT_EQ(::RevokeDragDrop(box), S_OK);
-    pane.Show();
-    HRESULT again = S_OK;
-    EXPECT_TRUE(qs::test::PumpUntil([&] {
-        again = ::RegisterDragDrop(box, &other);
-        if (SUCCEEDED(again)) ::RevokeDragDrop(box);
-        return again == DRAGDROP_E_ALREADYREGISTERED;
-    }));
-    // The box's window is destroyed with its form: by the time its own
-    // handling of WM_DESTROY is done, its target has been taken back.
-    struct DestroyProbe {
-        RefusingDropTarget* other;
-        HRESULT afterDestroy = E_FAIL;
-    } probe{&other};
-    const SUBCLASSPROC onDestroy = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                      DWORD_PTR data) -> LRESULT {
-        const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
-        if (message != WM_DESTROY) return result;
-        auto* p = reinterpret_cast<DestroyProbe*>(data);
-        p->afterDestroy = ::RegisterDragDrop(window, p->other);
-        if (SUCCEEDED(p->afterDestroy)) ::RevokeDragDrop(window);
-        return result;
-    };
-    ASSERT_TRUE(::SetWindowSubclass(box, onDestroy, 7, reinterpret_cast<DWORD_PTR>(&probe)));
-    pane.Unload();
-    EXPECT_FALSE(::IsWindow(box));
-    EXPECT_EQ(probe.afterDestroy, S_OK);
-    ::OleUninitialize();
-}
 
 // Work that input waits for (the lists of a start) runs when the thread
 // that finished it wakes the loop, even with no input at all.
