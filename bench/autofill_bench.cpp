@@ -55,7 +55,7 @@ int main() {
     std::nth_element(keyUs.begin(), middle, keyUs.end());
     const double typeUs = *middle;
 
-    const auto& names = *t.app.frmChoose.ComboListItemName[2];
+    const auto& names = t.app.frmChoose.ComboListItemName(2);
     const auto scanStart = Clock::now();
     long found = 0;
     for (int i = 0; i < rounds; ++i) {

@@ -64,7 +64,7 @@ void ActionFindFamilyMember(Application& app, std::wstring& code, std::wstring& 
     try {
         typed = LCase(typed);
         for (std::int32_t i = 0; i <= app.FamilyMemberCount; ++i) {
-            const std::wstring name = app.FamilyMembers.at(static_cast<std::size_t>(i)).MemberName;
+            const std::wstring name = app.FamilyMembers.at(i).MemberName;
             // The program never offers to start itself.
             if (name == L"Quillstart") continue;
             if (!HasPrefix(name, typed)) continue;
@@ -125,7 +125,7 @@ void FrmMain::TextMainChangeSearch(const std::wstring& text) {
 }
 
 void FrmMain::ListSearch(std::wstring& rawCode, std::wstring& typed, std::int16_t group) {
-    const ui::ListBox& combo = *app_.frmChoose.ComboListItemName[static_cast<std::size_t>(group)];
+    const ui::ListBox& combo = app_.frmChoose.ComboListItemName(group);
     std::int16_t lastIndex = ToInt16(combo.ListCount() - 1);
     if (lastIndex == -1) return;
     ActionFindLaunchName(app_, rawCode, typed, combo, lastIndex);

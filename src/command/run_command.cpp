@@ -121,7 +121,7 @@ void FrmMain::RunCommand(std::wstring& code, std::wstring& launchName) {
 
     if (const std::int16_t group = GroupOfListCode(code); group >= 0) {
         const std::wstring path(
-            app_.frmChoose.ComboListItemPath[static_cast<std::size_t>(group)]->List(app_.PendingItemIndex));
+            app_.frmChoose.ComboListItemPath(group).List(app_.PendingItemIndex));
         app_.MessageToShow = LaunchListItem(app_, group, path);
     }
     BugCheck(app_);

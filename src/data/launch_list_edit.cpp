@@ -6,7 +6,6 @@ namespace qs {
 
 namespace {
 
-std::size_t Slot(std::int16_t group) { return static_cast<std::size_t>(group); }
 
 void RemoveFirstExact(ui::ListBox& names, ui::ListBox& paths, const std::wstring& name) {
     const std::int32_t at = names.FindExact(name);
@@ -33,8 +32,8 @@ void AddItemInStep(ui::ListBox& names, ui::ListBox& paths, const ui::SharedText&
 }
 
 void LaunchListRemoveItem(Application& app, std::int16_t group, std::int32_t position) {
-    auto& names = *app.frmChoose.ComboListItemName.at(Slot(group));
-    auto& paths = *app.frmChoose.ComboListItemPath.at(Slot(group));
+    auto& names = app.frmChoose.ComboListItemName(group);
+    auto& paths = app.frmChoose.ComboListItemPath(group);
     const std::wstring name(names.List(position));
     const std::wstring path(paths.List(position));
     const bool flash = IsFlashSideItem(app, group, path);
@@ -43,24 +42,24 @@ void LaunchListRemoveItem(Application& app, std::int16_t group, std::int32_t pos
     if (group >= 3) return;
     FrmHid& hid = app.frmHid;
     if (flash) {
-        RemoveFirstExact(*hid.ComboUSBItemName.at(Slot(group)), *hid.ComboUSBItemPath.at(Slot(group)), name);
+        RemoveFirstExact(hid.ComboUSBItemName(group), hid.ComboUSBItemPath(group), name);
     } else {
-        RemoveFirstExact(*hid.ComboHDDItemName.at(Slot(group)), *hid.ComboHDDItemPath.at(Slot(group)), name);
+        RemoveFirstExact(hid.ComboHDDItemName(group), hid.ComboHDDItemPath(group), name);
     }
 }
 
 void LaunchListClearGroup(Application& app, std::int16_t group) {
-    app.frmChoose.ComboListItemName.at(Slot(group))->Clear();
-    app.frmChoose.ComboListItemPath.at(Slot(group))->Clear();
+    app.frmChoose.ComboListItemName(group).Clear();
+    app.frmChoose.ComboListItemPath(group).Clear();
     if (group >= 3) return;
     FrmHid& hid = app.frmHid;
-    if (hid.ComboUSBItemName.at(Slot(group))->ListCount() > 0) {
-        hid.ComboUSBItemName[Slot(group)]->Clear();
-        hid.ComboUSBItemPath[Slot(group)]->Clear();
+    if (hid.ComboUSBItemName(group).ListCount() > 0) {
+        hid.ComboUSBItemName(group).Clear();
+        hid.ComboUSBItemPath(group).Clear();
     }
-    if (hid.ComboHDDItemName.at(Slot(group))->ListCount() > 0) {
-        hid.ComboHDDItemName[Slot(group)]->Clear();
-        hid.ComboHDDItemPath[Slot(group)]->Clear();
+    if (hid.ComboHDDItemName(group).ListCount() > 0) {
+        hid.ComboHDDItemName(group).Clear();
+        hid.ComboHDDItemPath(group).Clear();
     }
 }
 

@@ -14,7 +14,6 @@ namespace qs {
 
 namespace {
 
-std::size_t Slot(std::int16_t group) { return static_cast<std::size_t>(group); }
 
 void RaiseFailure(const std::exception_ptr& failure) {
     if (failure) std::rethrow_exception(failure);
@@ -28,8 +27,8 @@ const wchar_t* LoadRoutine(bool flashSide) { return flashSide ? L"ActionLaunchLi
 void AddComputerSide(Application& app, std::int16_t group, const ReadRecords& records,
                      const std::vector<bool>* passes) {
     const std::vector<ui::SharedText>& names = records.names;
-    auto& merged = *app.frmChoose.ComboListItemName.at(Slot(group));
-    auto& paths = *app.frmChoose.ComboListItemPath.at(Slot(group));
+    auto& merged = app.frmChoose.ComboListItemName(group);
+    auto& paths = app.frmChoose.ComboListItemPath(group);
     for (std::size_t r = 0; r < names.size(); ++r) {
         if (passes != nullptr && !(*passes)[r]) continue;
         const ui::SharedText& target = records.targets[r];
@@ -38,8 +37,8 @@ void AddComputerSide(Application& app, std::int16_t group, const ReadRecords& re
         merged.AddItem(names[r]);
         paths.AddItem(target);
         if (passes != nullptr) {
-            app.frmHid.ComboHDDItemName.at(Slot(group))->AddItem(names[r]);
-            app.frmHid.ComboHDDItemPath.at(Slot(group))->AddItem(target);
+            app.frmHid.ComboHDDItemName(group).AddItem(names[r]);
+            app.frmHid.ComboHDDItemPath(group).AddItem(target);
         }
     }
 }
@@ -49,14 +48,14 @@ void AddComputerSide(Application& app, std::int16_t group, const ReadRecords& re
 // already held items, appended when they were empty.
 void AddFlashSide(Application& app, std::int16_t group, const ReadRecords& records, const std::vector<bool>& passes) {
     const std::vector<ui::SharedText>& names = records.names;
-    auto& merged = *app.frmChoose.ComboListItemName.at(Slot(group));
-    auto& paths = *app.frmChoose.ComboListItemPath.at(Slot(group));
+    auto& merged = app.frmChoose.ComboListItemName(group);
+    auto& paths = app.frmChoose.ComboListItemPath(group);
     const bool mergedHeldItems = merged.ListCount() > 0;
     for (std::size_t r = 0; r < names.size(); ++r) {
         if (!passes[r]) continue;
         const ui::SharedText& target = records.targets[r];
-        app.frmHid.ComboUSBItemName.at(Slot(group))->AddItem(names[r]);
-        app.frmHid.ComboUSBItemPath.at(Slot(group))->AddItem(target);
+        app.frmHid.ComboUSBItemName(group).AddItem(names[r]);
+        app.frmHid.ComboUSBItemPath(group).AddItem(target);
         if (mergedHeldItems) {
             AddItemInStep(merged, paths, names[r], target);
         } else {

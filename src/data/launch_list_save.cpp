@@ -9,7 +9,6 @@ namespace qs {
 
 namespace {
 
-std::size_t Slot(std::int16_t group) { return static_cast<std::size_t>(group); }
 
 std::int16_t LastIndexOf(const ui::ListBox& list) { return ToInt16(static_cast<long long>(list.ListCount()) - 1); }
 
@@ -22,10 +21,10 @@ void ActionLaunchListSave(Application& app, std::int16_t group, std::int16_t las
     try {
         file = ComputerSideFile(app, group);
         const bool merged = group >= 3;
-        const ui::ListBox& names = merged ? *app.frmChoose.ComboListItemName.at(Slot(group))
-                                          : *app.frmHid.ComboHDDItemName.at(Slot(group));
-        const ui::ListBox& paths = merged ? *app.frmChoose.ComboListItemPath.at(Slot(group))
-                                          : *app.frmHid.ComboHDDItemPath.at(Slot(group));
+        const ui::ListBox& names = merged ? app.frmChoose.ComboListItemName(group)
+                                          : app.frmHid.ComboHDDItemName(group);
+        const ui::ListBox& paths = merged ? app.frmChoose.ComboListItemPath(group)
+                                          : app.frmHid.ComboHDDItemPath(group);
         writing = true;
         for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
             writer.String(names.List(i)).String(paths.List(i)).EndLine();
@@ -52,8 +51,8 @@ void ActionLaunchListSaveUSB(Application& app, const std::wstring& group, std::i
             g = 2;
         }
         file = FlashSideFile(app, g);
-        const ui::ListBox& names = *app.frmHid.ComboUSBItemName.at(Slot(g));
-        const ui::ListBox& paths = *app.frmHid.ComboUSBItemPath.at(Slot(g));
+        const ui::ListBox& names = app.frmHid.ComboUSBItemName(g);
+        const ui::ListBox& paths = app.frmHid.ComboUSBItemPath(g);
         writing = true;
         for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
             const std::wstring stored = ToStoredFlashTarget(app, std::wstring(paths.List(i)));
@@ -70,9 +69,9 @@ void ActionLaunchListSaveUSB(Application& app, const std::wstring& group, std::i
 void LaunchListCountUSB(Application& app) {
     if (!app.place.OnRemovable) return;
     Settings& c = app.settings;
-    c.USBFileLast = LastIndexOf(*app.frmHid.ComboUSBItemPath[0]);
-    c.USBFolderLast = LastIndexOf(*app.frmHid.ComboUSBItemPath[1]);
-    c.USBProgramLast = LastIndexOf(*app.frmHid.ComboUSBItemPath[2]);
+    c.USBFileLast = LastIndexOf(app.frmHid.ComboUSBItemPath(0));
+    c.USBFolderLast = LastIndexOf(app.frmHid.ComboUSBItemPath(1));
+    c.USBProgramLast = LastIndexOf(app.frmHid.ComboUSBItemPath(2));
 }
 
 void LaunchListSaveUSBLists(Application& app) {
@@ -85,11 +84,11 @@ void LaunchListSaveUSBLists(Application& app) {
 
 void LaunchListCountOthers(Application& app) {
     Settings& c = app.settings;
-    c.HDDFileLast = LastIndexOf(*app.frmHid.ComboHDDItemPath[0]);
-    c.HDDFolderLast = LastIndexOf(*app.frmHid.ComboHDDItemPath[1]);
-    c.HDDProgramLast = LastIndexOf(*app.frmHid.ComboHDDItemPath[2]);
-    c.EmailLast = LastIndexOf(*app.frmChoose.ComboListItemPath[3]);
-    c.WebLast = LastIndexOf(*app.frmChoose.ComboListItemPath[4]);
+    c.HDDFileLast = LastIndexOf(app.frmHid.ComboHDDItemPath(0));
+    c.HDDFolderLast = LastIndexOf(app.frmHid.ComboHDDItemPath(1));
+    c.HDDProgramLast = LastIndexOf(app.frmHid.ComboHDDItemPath(2));
+    c.EmailLast = LastIndexOf(app.frmChoose.ComboListItemPath(3));
+    c.WebLast = LastIndexOf(app.frmChoose.ComboListItemPath(4));
 }
 
 void LaunchListSaveOthers(Application& app) {

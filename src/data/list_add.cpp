@@ -9,7 +9,6 @@ namespace qs {
 
 namespace {
 
-std::size_t Slot(std::int16_t group) { return static_cast<std::size_t>(group); }
 
 // A write to TextMain from code, kept from being taken for typing.
 void EmptyTextMain(Application& app, bool focus) {
@@ -87,14 +86,14 @@ void ActionListAddNew(Application& app, const std::wstring& name, const std::wst
                       const std::wstring& extension) {
     try {
         const std::int16_t group = GroupOfBrowseOption(app.frmBrowse.BrowseOption, extension);
-        AddItemInStep(*app.frmChoose.ComboListItemName.at(Slot(group)), *app.frmChoose.ComboListItemPath.at(Slot(group)),
+        AddItemInStep(app.frmChoose.ComboListItemName(group), app.frmChoose.ComboListItemPath(group),
                       name, path);
         if (group < 3) {
             FrmHid& hid = app.frmHid;
             if (driveType == 1) {
-                AddItemInStep(*hid.ComboUSBItemName.at(Slot(group)), *hid.ComboUSBItemPath.at(Slot(group)), name, path);
+                AddItemInStep(hid.ComboUSBItemName(group), hid.ComboUSBItemPath(group), name, path);
             } else {
-                AddItemInStep(*hid.ComboHDDItemName.at(Slot(group)), *hid.ComboHDDItemPath.at(Slot(group)), name, path);
+                AddItemInStep(hid.ComboHDDItemName(group), hid.ComboHDDItemPath(group), name, path);
             }
         }
         app.frmBrowse.TextAddName.SetText(L"");
@@ -107,7 +106,7 @@ void ActionListAddNew(Application& app, const std::wstring& name, const std::wst
 
 void ActionListAddWeb(Application& app, const std::wstring& name, const std::wstring& url) {
     try {
-        AddItemInStep(*app.frmChoose.ComboListItemName.at(4), *app.frmChoose.ComboListItemPath.at(4), name, url);
+        AddItemInStep(app.frmChoose.ComboListItemName(4), app.frmChoose.ComboListItemPath(4), name, url);
         app.frmMain.TextWebName.SetText(L"");
         app.frmMain.TextWebUrl.SetText(L"");
         EmptyTextMain(app, true);

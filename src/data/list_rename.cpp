@@ -7,7 +7,6 @@ namespace qs {
 
 namespace {
 
-std::size_t Slot(std::int16_t group) { return static_cast<std::size_t>(group); }
 
 // Moves the side entry named `oldName` to `newName`, keeping its path.
 void RenameOnSide(ui::ListBox& names, ui::ListBox& paths, const std::wstring& oldName, const std::wstring& newName,
@@ -23,8 +22,8 @@ void RenameOnSide(ui::ListBox& names, ui::ListBox& paths, const std::wstring& ol
 std::wstring ActionListRename(Application& app, std::int16_t group, const std::wstring& newName,
                               std::int16_t position) {
     try {
-        ui::ListBox& names = *app.frmChoose.ComboListItemName.at(Slot(group));
-        ui::ListBox& paths = *app.frmChoose.ComboListItemPath.at(Slot(group));
+        ui::ListBox& names = app.frmChoose.ComboListItemName(group);
+        ui::ListBox& paths = app.frmChoose.ComboListItemPath(group);
         for (std::int32_t i = 0; i < names.ListCount(); ++i) {
             if (names.List(i) == newName) return L"MessageNameAlreadyListed";
         }
@@ -38,10 +37,10 @@ std::wstring ActionListRename(Application& app, std::int16_t group, const std::w
         if (group < 3) {
             FrmHid& hid = app.frmHid;
             if (flash) {
-                RenameOnSide(*hid.ComboUSBItemName.at(Slot(group)), *hid.ComboUSBItemPath.at(Slot(group)), oldName,
+                RenameOnSide(hid.ComboUSBItemName(group), hid.ComboUSBItemPath(group), oldName,
                              newName, path);
             } else {
-                RenameOnSide(*hid.ComboHDDItemName.at(Slot(group)), *hid.ComboHDDItemPath.at(Slot(group)), oldName,
+                RenameOnSide(hid.ComboHDDItemName(group), hid.ComboHDDItemPath(group), oldName,
                              newName, path);
             }
         }

@@ -22,9 +22,9 @@ void ComposeCommon(Application& app, const wchar_t* buttons) {
 }
 
 void ReadNames(Application& app) {
-    app.family.UserFirstName = app.frmMessage.TextName[0]->Text();
-    app.family.UserLastName = app.frmMessage.TextName[1]->Text();
-    app.family.UserNickName = app.frmMessage.TextName[2]->Text();
+    app.family.UserFirstName = app.frmMessage.TextName(0).Text();
+    app.family.UserLastName = app.frmMessage.TextName(1).Text();
+    app.family.UserNickName = app.frmMessage.TextName(2).Text();
 }
 
 // Forgets the message that was shown and lets the bar be topmost again,
@@ -43,18 +43,18 @@ void ClearMessage(Application& app) {
 
 void ShowNameBoxes(Application& app) {
     FrmMessage& form = app.frmMessage;
-    for (std::size_t i = 0; i < form.TextName.size(); ++i) {
-        form.LabelName[i]->SetVisible(true);
-        form.TextName[i]->SetVisible(true);
-        form.TextName[i]->SetTabIndex(static_cast<std::int16_t>(i));
+    for (std::int16_t i = 0; i < form.TextName.Count(); ++i) {
+        form.LabelName(i).SetVisible(true);
+        form.TextName(i).SetVisible(true);
+        form.TextName(i).SetTabIndex(static_cast<std::int16_t>(i));
     }
     if (app.MessageToShow != L"MessageChangeUserName") return;
     // Each filling fires the boxes' Change, which shows the preview.
-    form.TextName[0]->SetText(app.family.UserFirstName);
-    form.TextName[1]->SetText(app.family.UserLastName);
-    form.TextName[2]->SetText(app.family.UserNickName);
+    form.TextName(0).SetText(app.family.UserFirstName);
+    form.TextName(1).SetText(app.family.UserLastName);
+    form.TextName(2).SetText(app.family.UserNickName);
     if (!app.family.UserFirstName.empty())
-        form.TextName[0]->SetSelStart(static_cast<std::int32_t>(app.family.UserFirstName.size()));
+        form.TextName(0).SetSelStart(static_cast<std::int32_t>(app.family.UserFirstName.size()));
 }
 
 }  // namespace

@@ -34,12 +34,12 @@ FrmMessage::FrmMessage(Application& app)
       LabelOK(*this, L"LabelOK"),
       ImageCancel(*this, L"ImageCancel"),
       LabelCancel(*this, L"LabelCancel"),
+      LabelName(*this, L"LabelName", 3, L""),
+      TextName(*this, L"TextName", 3),
       app_(app) {
-    for (std::size_t i = 0; i < TextName.size(); ++i) {
-        LabelName[i] = std::make_unique<ui::Label>(*this, L"LabelName", NameCaptions[i]);
-        TextName[i] = std::make_unique<ui::TextBox>(*this, L"TextName");
-        TextName[i]->KeyPress = [this](std::int16_t& key) { TextNameKeyPress(key); };
-        TextName[i]->Change = [this] { TextNameChange(); };
+    for (std::int16_t i = 0; i < TextName.Count(); ++i) {
+        TextName(i).KeyPress = [this](std::int16_t& key) { TextNameKeyPress(key); };
+        TextName(i).Change = [this] { TextNameChange(); };
     }
     SetCaption(L"Quillstart");
     RestoreDesign();
@@ -74,15 +74,15 @@ void FrmMessage::RestoreDesign() {
     LabelHead.Move(240, 600, 4920, 420);
     LabelHead.SetCaption(L"");
     LabelHead.SetFont(12, true);
-    for (std::size_t i = 0; i < TextName.size(); ++i) {
-        const auto left = static_cast<std::int32_t>(240 + i * 1680);
-        LabelName[i]->Move(left, 1140, 1560, 255);
-        LabelName[i]->SetCaption(NameCaptions[i]);
-        LabelName[i]->SetVisible(false);
-        TextName[i]->Move(left, 1410, 1560, 330);
-        TextName[i]->SetText(L"");
-        TextName[i]->SetVisible(false);
-        TextName[i]->SetTabIndex(static_cast<std::int16_t>(i + 1));
+    for (std::int16_t i = 0; i < TextName.Count(); ++i) {
+        const std::int32_t left = 240 + i * 1680;
+        LabelName(i).Move(left, 1140, 1560, 255);
+        LabelName(i).SetCaption(NameCaptions[i]);
+        LabelName(i).SetVisible(false);
+        TextName(i).Move(left, 1410, 1560, 330);
+        TextName(i).SetText(L"");
+        TextName(i).SetVisible(false);
+        TextName(i).SetTabIndex(static_cast<std::int16_t>(i + 1));
     }
     TextMessage.Move(240, 1860, 4920, 5280);
     TextMessage.SetText(L"");
@@ -138,9 +138,9 @@ void FrmMessage::TextNameKeyPress(std::int16_t& key) {
 
 void FrmMessage::TextNameChange() {
     if (restoringDesign_) return;
-    const std::wstring& first = TextName[0]->Text();
-    const std::wstring& last = TextName[1]->Text();
-    const std::wstring& nick = TextName[2]->Text();
+    const std::wstring& first = TextName(0).Text();
+    const std::wstring& last = TextName(1).Text();
+    const std::wstring& nick = TextName(2).Text();
     ImageOK.SetVisible(!(first + last + nick).empty());
     TextMessage.SetText(L"First Name: " + OrEmpty(first) + L"\r\n" + L"Last Name: " + OrEmpty(last) + L"\r\n" +
                         L"Nick Name : " + OrEmpty(nick));

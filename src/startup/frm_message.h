@@ -2,11 +2,10 @@
 // The one dialog through which the program speaks: a heading, a scrolling
 // read-only body, three name boxes for the name prompt, a do-not-show box,
 // and two picture buttons with their labels.
-#include <array>
 #include <cstdint>
-#include <memory>
 
 #include "ui/check_box.h"
+#include "ui/control_array.h"
 #include "ui/form.h"
 #include "ui/label.h"
 #include "ui/picture_box.h"
@@ -32,14 +31,14 @@ public:
     ui::Label LabelMsgFormCaption;
     ui::Label LabelHead;
     ui::TextBox TextMessage;
-    // Index 0 first name, 1 last name, 2 nick name.
-    std::array<std::unique_ptr<ui::Label>, 3> LabelName;
-    std::array<std::unique_ptr<ui::TextBox>, 3> TextName;
     ui::CheckBox CheckDoNotShow;
     ui::PictureBox ImageOK;
     ui::Label LabelOK;
     ui::PictureBox ImageCancel;
     ui::Label LabelCancel;
+    // Index 0 first name, 1 last name, 2 nick name.
+    ui::ControlArray<ui::Label> LabelName;
+    ui::ControlArray<ui::TextBox> TextName;
 
     // Event handlers.
     void FormLoad();

@@ -36,6 +36,7 @@ enum class ControlKind {
     CommandButton,
     Timer,
     ListBox,
+    ComboBox,
     PictureBox,
     CheckBox,
     OptionButton,

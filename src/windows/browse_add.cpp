@@ -90,8 +90,8 @@ void FrmBrowse::PictureAddOKClick() {
             }
         }
         const auto group = static_cast<std::size_t>(GroupOfBrowseOption(BrowseOption, extension));
-        ui::ListBox& names = *app_.frmChoose.ComboListItemName.at(group);
-        ui::ListBox& paths = *app_.frmChoose.ComboListItemPath.at(group);
+        ui::ListBox& names = app_.frmChoose.ComboListItemName(group);
+        ui::ListBox& paths = app_.frmChoose.ComboListItemPath(group);
         std::wstring key = ActionConfirmAddPath(app_, path, paths, names);
         if (!key.empty()) {
             // The file stays in the box; only the list's choice goes.

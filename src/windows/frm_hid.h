@@ -2,11 +2,9 @@
 // The hidden holder window. It owns the two sides of the File, Folder and
 // Program groups: the computer's items and the flash drive's items, which
 // the list files are written from. It is never shown.
-#include <array>
-#include <memory>
-
+#include "ui/combo_box.h"
+#include "ui/control_array.h"
 #include "ui/form.h"
-#include "ui/list_box.h"
 
 namespace qs {
 
@@ -16,10 +14,10 @@ public:
 
     // Index is the group: 0 File, 1 Folder, 2 Program. Names are sorted;
     // paths follow their names position by position.
-    std::array<std::unique_ptr<ui::ListBox>, 3> ComboHDDItemName;
-    std::array<std::unique_ptr<ui::ListBox>, 3> ComboHDDItemPath;
-    std::array<std::unique_ptr<ui::ListBox>, 3> ComboUSBItemName;
-    std::array<std::unique_ptr<ui::ListBox>, 3> ComboUSBItemPath;
+    ui::ControlArray<ui::ComboBox> ComboHDDItemName;
+    ui::ControlArray<ui::ComboBox> ComboHDDItemPath;
+    ui::ControlArray<ui::ComboBox> ComboUSBItemName;
+    ui::ControlArray<ui::ComboBox> ComboUSBItemPath;
 };
 
 }  // namespace qs

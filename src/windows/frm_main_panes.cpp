@@ -15,7 +15,7 @@ namespace {
 std::int16_t LaunchListItemCount(Application& app) {
     std::int16_t sum = 0;
     for (const std::size_t group : {2, 0, 1, 3, 4}) {
-        sum = ToInt16(sum + app.frmChoose.ComboListItemName[group]->ListCount());
+        sum = ToInt16(sum + app.frmChoose.ComboListItemName(group).ListCount());
     }
     return sum;
 }

@@ -19,8 +19,8 @@ void FrmMain::TextWebKeyPress(std::int16_t& key) {
 }
 
 void FrmMain::AddWebItem() {
-    ui::ListBox& names = *app_.frmChoose.ComboListItemName[4];
-    ui::ListBox& paths = *app_.frmChoose.ComboListItemPath[4];
+    ui::ListBox& names = app_.frmChoose.ComboListItemName(4);
+    ui::ListBox& paths = app_.frmChoose.ComboListItemPath(4);
     const std::wstring url = TextWebUrl.Text();
     app_.MessageToShow = ActionConfirmAddPath(app_, url, paths, names);
     if (!app_.MessageToShow.empty()) {

@@ -53,10 +53,10 @@ std::vector<std::wstring> Entries(const qs::ui::ListBox& list) {
 void RequireRoundTrip(qs::fuzz::MemorySystem& sys, qs::Application& app, std::int16_t group, bool flash) {
     const bool shared = group >= 3;
     const auto slot = static_cast<std::size_t>(group);
-    const qs::ui::ListBox& names = shared ? *app.frmChoose.ComboListItemName[slot]
-                                   : flash ? *app.frmHid.ComboUSBItemName[slot] : *app.frmHid.ComboHDDItemName[slot];
-    const qs::ui::ListBox& paths = shared ? *app.frmChoose.ComboListItemPath[slot]
-                                   : flash ? *app.frmHid.ComboUSBItemPath[slot] : *app.frmHid.ComboHDDItemPath[slot];
+    const qs::ui::ListBox& names = shared ? app.frmChoose.ComboListItemName(slot)
+                                   : flash ? app.frmHid.ComboUSBItemName(slot) : app.frmHid.ComboHDDItemName(slot);
+    const qs::ui::ListBox& paths = shared ? app.frmChoose.ComboListItemPath(slot)
+                                   : flash ? app.frmHid.ComboUSBItemPath(slot) : app.frmHid.ComboHDDItemPath(slot);
     if (names.ListCount() == 0 || HoldsQuote(names) || HoldsQuote(paths)) return;
     const auto last = static_cast<std::int16_t>(names.ListCount() - 1);
     if (flash) {
@@ -74,10 +74,10 @@ void RequireRoundTrip(qs::fuzz::MemorySystem& sys, qs::Application& app, std::in
         qs::ActionLaunchListGet(again, group, last);
     }
     Require(againDialogs.shown.empty());
-    const qs::ui::ListBox& names2 = shared ? *again.frmChoose.ComboListItemName[slot]
-                                    : flash ? *again.frmHid.ComboUSBItemName[slot] : *again.frmHid.ComboHDDItemName[slot];
-    const qs::ui::ListBox& paths2 = shared ? *again.frmChoose.ComboListItemPath[slot]
-                                    : flash ? *again.frmHid.ComboUSBItemPath[slot] : *again.frmHid.ComboHDDItemPath[slot];
+    const qs::ui::ListBox& names2 = shared ? again.frmChoose.ComboListItemName(slot)
+                                    : flash ? again.frmHid.ComboUSBItemName(slot) : again.frmHid.ComboHDDItemName(slot);
+    const qs::ui::ListBox& paths2 = shared ? again.frmChoose.ComboListItemPath(slot)
+                                    : flash ? again.frmHid.ComboUSBItemPath(slot) : again.frmHid.ComboHDDItemPath(slot);
     Require(Entries(names2) == Entries(names));
     Require(Entries(paths2) == Entries(paths));
 }
@@ -100,8 +100,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     qs::test::DialogBackend dialogs{app};
     app.AttachBackend(&dialogs);
     SetPlace(app, flash);
-    auto& names = *app.frmChoose.ComboListItemName[static_cast<std::size_t>(group)];
-    auto& paths = *app.frmChoose.ComboListItemPath[static_cast<std::size_t>(group)];
+    auto& names = app.frmChoose.ComboListItemName(group);
+    auto& paths = app.frmChoose.ComboListItemPath(group);
     if (prefilled) qs::AddItemInStep(names, paths, L"m", L"C:\\m.exe");
 
     std::wstring routine;
@@ -118,10 +118,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const auto& m : dialogs.shown) Require(m.key == routine);
     RequirePairedAndSorted(names, paths);
     if (group < 3) {
-        RequirePairedAndSorted(*app.frmHid.ComboHDDItemName[static_cast<std::size_t>(group)],
-                               *app.frmHid.ComboHDDItemPath[static_cast<std::size_t>(group)]);
-        RequirePairedAndSorted(*app.frmHid.ComboUSBItemName[static_cast<std::size_t>(group)],
-                               *app.frmHid.ComboUSBItemPath[static_cast<std::size_t>(group)]);
+        RequirePairedAndSorted(app.frmHid.ComboHDDItemName(group),
+                               app.frmHid.ComboHDDItemPath(group));
+        RequirePairedAndSorted(app.frmHid.ComboUSBItemName(group),
+                               app.frmHid.ComboUSBItemPath(group));
     }
     if (dialogs.shown.empty()) RequireRoundTrip(sys, app, group, flash);
     return 0;

@@ -73,12 +73,12 @@ std::vector<std::wstring> Entries(const ui::ListBox& list) {
     return out;
 }
 
-ui::ListBox& MergedNames(TestApp& t, int group) { return *t.app.frmChoose.ComboListItemName.at(static_cast<std::size_t>(group)); }
-ui::ListBox& MergedPaths(TestApp& t, int group) { return *t.app.frmChoose.ComboListItemPath.at(static_cast<std::size_t>(group)); }
-ui::ListBox& ComputerNames(TestApp& t, int group) { return *t.app.frmHid.ComboHDDItemName.at(static_cast<std::size_t>(group)); }
-ui::ListBox& ComputerPaths(TestApp& t, int group) { return *t.app.frmHid.ComboHDDItemPath.at(static_cast<std::size_t>(group)); }
-ui::ListBox& FlashNames(TestApp& t, int group) { return *t.app.frmHid.ComboUSBItemName.at(static_cast<std::size_t>(group)); }
-ui::ListBox& FlashPaths(TestApp& t, int group) { return *t.app.frmHid.ComboUSBItemPath.at(static_cast<std::size_t>(group)); }
+ui::ListBox& MergedNames(TestApp& t, int group) { return t.app.frmChoose.ComboListItemName(static_cast<std::size_t>(group)); }
+ui::ListBox& MergedPaths(TestApp& t, int group) { return t.app.frmChoose.ComboListItemPath(static_cast<std::size_t>(group)); }
+ui::ListBox& ComputerNames(TestApp& t, int group) { return t.app.frmHid.ComboHDDItemName(static_cast<std::size_t>(group)); }
+ui::ListBox& ComputerPaths(TestApp& t, int group) { return t.app.frmHid.ComboHDDItemPath(static_cast<std::size_t>(group)); }
+ui::ListBox& FlashNames(TestApp& t, int group) { return t.app.frmHid.ComboUSBItemName(static_cast<std::size_t>(group)); }
+ui::ListBox& FlashPaths(TestApp& t, int group) { return t.app.frmHid.ComboUSBItemPath(static_cast<std::size_t>(group)); }
 
 int BugCount(TestApp& t) {
     int n = 0;

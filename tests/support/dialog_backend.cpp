@@ -31,7 +31,7 @@ MessageRequest DialogBackend::Record(FrmMessage& form) const {
     r.cancelLabel = form.LabelCancel.Caption();
     r.okVisible = form.ImageOK.Visible();
     r.cancelVisible = form.ImageCancel.Visible();
-    r.nameBoxesVisible = form.TextName[0]->Visible() && form.TextName[1]->Visible() && form.TextName[2]->Visible();
+    r.nameBoxesVisible = form.TextName(0).Visible() && form.TextName(1).Visible() && form.TextName(2).Visible();
     r.okPicture = ui::PictureName(form.ImageOK.Picture());
     r.cancelPicture = ui::PictureName(form.ImageCancel.Picture());
     return r;
@@ -58,12 +58,12 @@ DialogBackend::Reply ClickCancel() {
 }
 
 DialogBackend::Reply TypeName(int index, std::wstring keys) {
-    return [index, keys](FrmMessage& form) { form.TextName[static_cast<std::size_t>(index)]->TypeText(keys); };
+    return [index, keys](FrmMessage& form) { form.TextName(index).TypeText(keys); };
 }
 
 DialogBackend::Reply TypeNameAndEnter(int index, std::wstring keys) {
     return [index, keys](FrmMessage& form) {
-        auto& box = *form.TextName[static_cast<std::size_t>(index)];
+        auto& box = form.TextName(index);
         box.TypeText(keys);
         box.TypeKey(13);
     };

@@ -17,8 +17,8 @@ TestApp::TestApp() : app(sys) {
 }
 
 void TestApp::AddItem(int group, const std::wstring& name, const std::wstring& path) {
-    auto& names = *app.frmChoose.ComboListItemName[static_cast<std::size_t>(group)];
-    auto& paths = *app.frmChoose.ComboListItemPath[static_cast<std::size_t>(group)];
+    auto& names = app.frmChoose.ComboListItemName(group);
+    auto& paths = app.frmChoose.ComboListItemPath(group);
     const auto at = names.AddItem(name);
     paths.AddItem(path, at);
 }

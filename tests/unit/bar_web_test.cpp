@@ -15,8 +15,8 @@ struct WebPane : ::testing::Test {
     void SetUp() override { t.bar().PictureWeb.Press(); }
     qs::ui::TextBox& url() { return t.bar().TextWebUrl; }
     qs::ui::TextBox& name() { return t.bar().TextWebName; }
-    qs::ui::ListBox& names() { return *t.app.frmChoose.ComboListItemName[4]; }
-    qs::ui::ListBox& paths() { return *t.app.frmChoose.ComboListItemPath[4]; }
+    qs::ui::ListBox& names() { return t.app.frmChoose.ComboListItemName(4); }
+    qs::ui::ListBox& paths() { return t.app.frmChoose.ComboListItemPath(4); }
 };
 
 TEST_F(WebPane, AUrlShowsTheNameBoxAndEmptyingItHidesAndEmptiesIt) {
@@ -95,8 +95,8 @@ TEST_F(WebPane, ANameTakenInAnyCaseIsRefusedAndTheNameBoxIsEmptied) {
 TEST(ListAdd, ThePathCompareIsExactSoCaseMakesADifferentPath) {
     BarApp t;
     t.AddItem(4, L"news", L"http://News.example/");
-    auto& names = *t.app.frmChoose.ComboListItemName[4];
-    auto& paths = *t.app.frmChoose.ComboListItemPath[4];
+    auto& names = t.app.frmChoose.ComboListItemName(4);
+    auto& paths = t.app.frmChoose.ComboListItemPath(4);
     EXPECT_EQ(qs::ActionConfirmAddPath(t.app, L"http://news.example/", paths, names), L"");
     EXPECT_EQ(qs::ActionConfirmAddPath(t.app, L"http://News.example/", paths, names), L"MessagePathAlreadyListed");
     EXPECT_EQ(t.app.message.DuplicateItemName, L"news");
@@ -105,8 +105,8 @@ TEST(ListAdd, ThePathCompareIsExactSoCaseMakesADifferentPath) {
 TEST(ListAdd, TheSameNameInAnotherGroupIsAllowed) {
     BarApp t;
     t.AddItem(2, L"news", L"C:\\News.exe");
-    EXPECT_EQ(qs::ActionConfirmAddName(t.app, L"NEWS", *t.app.frmChoose.ComboListItemName[4]), L"");
-    EXPECT_EQ(qs::ActionConfirmAddName(t.app, L"NEWS", *t.app.frmChoose.ComboListItemName[2]),
+    EXPECT_EQ(qs::ActionConfirmAddName(t.app, L"NEWS", t.app.frmChoose.ComboListItemName(4)), L"");
+    EXPECT_EQ(qs::ActionConfirmAddName(t.app, L"NEWS", t.app.frmChoose.ComboListItemName(2)),
               L"MessageNameAlreadyListed");
 }
 
@@ -114,8 +114,8 @@ TEST(ListAdd, AWebItemsUrlFollowsItsNameInTheSortedList) {
     BarApp t;
     qs::ActionListAddWeb(t.app, L"zeta", L"http://z.example/");
     qs::ActionListAddWeb(t.app, L"alpha", L"http://a.example/");
-    auto& names = *t.app.frmChoose.ComboListItemName[4];
-    auto& paths = *t.app.frmChoose.ComboListItemPath[4];
+    auto& names = t.app.frmChoose.ComboListItemName(4);
+    auto& paths = t.app.frmChoose.ComboListItemPath(4);
     EXPECT_EQ(names.List(0), L"alpha");
     EXPECT_EQ(paths.List(0), L"http://a.example/");
     EXPECT_EQ(paths.List(1), L"http://z.example/");

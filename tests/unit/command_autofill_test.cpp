@@ -130,8 +130,8 @@ TEST_F(AutoFill, EmptyGroupIsNotSearched) {
 // A flash drive can merge two full sides into one list of more names than a
 // 16-bit last index holds: the search then gives up without a word.
 TEST_F(AutoFill, MergedListPastTheSixteenBitIndexCompletesNothingAndSaysNothing) {
-    auto& names = *t.app.frmChoose.ComboListItemName[2];
-    auto& paths = *t.app.frmChoose.ComboListItemPath[2];
+    auto& names = t.app.frmChoose.ComboListItemName(2);
+    auto& paths = t.app.frmChoose.ComboListItemPath(2);
     for (int i = 0; i < 32768; ++i) {
         names.AddItem(L"zz" + std::to_wstring(i));
         paths.AddItem(L"C:\\Apps\\zz.exe");
@@ -143,8 +143,8 @@ TEST_F(AutoFill, MergedListPastTheSixteenBitIndexCompletesNothingAndSaysNothing)
 }
 
 TEST_F(AutoFill, ListOfThirtyTwoThousandSevenHundredSixtySevenNamesStillCompletes) {
-    auto& names = *t.app.frmChoose.ComboListItemName[2];
-    auto& paths = *t.app.frmChoose.ComboListItemPath[2];
+    auto& names = t.app.frmChoose.ComboListItemName(2);
+    auto& paths = t.app.frmChoose.ComboListItemPath(2);
     for (int i = 1; i < 32767; ++i) {
         names.AddItem(L"zz" + std::to_wstring(i));
         paths.AddItem(L"C:\\Apps\\zz.exe");

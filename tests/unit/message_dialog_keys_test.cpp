@@ -109,8 +109,8 @@ TEST(MessageDialogKeys, EscInANameBoxAnswersCancelAndStoresNoName) {
     TestApp t;
     bool closedByKey = false;
     t.dialogs.Answer([&](FrmMessage& form) {
-        form.TextName[0]->TypeText(L"Ann");
-        form.TextName[0]->TypeKey(27);
+        form.TextName(0).TypeText(L"Ann");
+        form.TextName(0).TypeKey(27);
         closedByKey = !Showing(form);
     });
     Process(t, L"MessageGetUserName");
@@ -151,7 +151,7 @@ TEST(MessageDialogKeys, ClickOnTheCaptionOfAHiddenButtonDoesNothing) {
 TEST(MessageDialogKeys, ClickOnTheOKCaptionStoresTheTypedName) {
     TestApp t;
     t.dialogs.Answer([](FrmMessage& form) {
-        form.TextName[0]->TypeText(L"Ann");
+        form.TextName(0).TypeText(L"Ann");
         form.LabelOK.UserClick();
     });
     Process(t, L"MessageGetUserName");

@@ -27,8 +27,8 @@ TEST(MessageNamePrompt, NameBoxesAreHiddenByDefault) {
     TestApp t;
     t.dialogs.Answer([](FrmMessage& form) {
         for (int i = 0; i < 3; ++i) {
-            EXPECT_FALSE(form.LabelName[i]->Visible());
-            EXPECT_FALSE(form.TextName[i]->Visible());
+            EXPECT_FALSE(form.LabelName(i).Visible());
+            EXPECT_FALSE(form.TextName(i).Visible());
         }
         form.ImageOK.Press();
     });
@@ -40,10 +40,10 @@ TEST(MessageNamePrompt, NameBoxesShowWithTheirCaptionsAndTabOrder) {
     t.dialogs.Answer([](FrmMessage& form) {
         const wchar_t* captions[3] = {L"First Name", L"Last Name", L"Nick Name"};
         for (int i = 0; i < 3; ++i) {
-            EXPECT_TRUE(form.LabelName[i]->Visible());
-            EXPECT_EQ(form.LabelName[i]->Caption(), captions[i]);
-            EXPECT_TRUE(form.TextName[i]->Visible());
-            EXPECT_EQ(form.TextName[i]->TabIndex(), i);
+            EXPECT_TRUE(form.LabelName(i).Visible());
+            EXPECT_EQ(form.LabelName(i).Caption(), captions[i]);
+            EXPECT_TRUE(form.TextName(i).Visible());
+            EXPECT_EQ(form.TextName(i).TabIndex(), i);
         }
         form.ImageCancel.Press();
     });
@@ -54,7 +54,7 @@ TEST(MessageNamePrompt, GetUserNameHidesOKUntilALetterIsTyped) {
     TestApp t;
     t.dialogs.Answer([](FrmMessage& form) {
         EXPECT_FALSE(form.ImageOK.Visible());
-        form.TextName[1]->TypeText(L"S");
+        form.TextName(1).TypeText(L"S");
         EXPECT_TRUE(form.ImageOK.Visible());
         form.ImageCancel.Press();
     });
@@ -64,11 +64,11 @@ TEST(MessageNamePrompt, GetUserNameHidesOKUntilALetterIsTyped) {
 TEST(MessageNamePrompt, GetUserNameEnterDoesNothingUntilALetterIsTyped) {
     TestApp t;
     t.dialogs.Answer([](FrmMessage& form) {
-        form.TextName[0]->TypeKey(13);
+        form.TextName(0).TypeKey(13);
         EXPECT_TRUE(form.IsLoaded());
         EXPECT_TRUE(form.Visible());
-        form.TextName[0]->TypeText(L"Ann");
-        form.TextName[0]->TypeKey(13);
+        form.TextName(0).TypeText(L"Ann");
+        form.TextName(0).TypeKey(13);
         EXPECT_FALSE(form.IsLoaded());
     });
     Ask(t, L"MessageGetUserName");
@@ -81,9 +81,9 @@ TEST(MessageNamePrompt, GetUserNameDeletingAllLettersHidesOKAgain) {
     std::int16_t theme = 3;
     qs::ThemeCreate(t.app, theme);
     t.dialogs.Answer([](FrmMessage& form) {
-        form.TextName[2]->TypeText(L"Al");
+        form.TextName(2).TypeText(L"Al");
         EXPECT_TRUE(form.ImageOK.Visible());
-        form.TextName[2]->TypeText(L"\b\b");
+        form.TextName(2).TypeText(L"\b\b");
         EXPECT_FALSE(form.ImageOK.Visible());
         EXPECT_EQ(qs::ui::PictureName(form.ImageOK.Picture()), L"ImageMZ(3)");
         form.ImageCancel.Press();
@@ -94,10 +94,10 @@ TEST(MessageNamePrompt, GetUserNameDeletingAllLettersHidesOKAgain) {
 TEST(MessageNamePrompt, NameBoxesTakeLettersAndBackspaceOnly) {
     TestApp t;
     t.dialogs.Answer([](FrmMessage& form) {
-        form.TextName[0]->TypeText(L"Jo 2-n_Zz\x00E9.");
-        EXPECT_EQ(form.TextName[0]->Text(), L"JonZz");
-        form.TextName[0]->TypeText(L"\b");
-        EXPECT_EQ(form.TextName[0]->Text(), L"JonZ");
+        form.TextName(0).TypeText(L"Jo 2-n_Zz\x00E9.");
+        EXPECT_EQ(form.TextName(0).Text(), L"JonZz");
+        form.TextName(0).TypeText(L"\b");
+        EXPECT_EQ(form.TextName(0).Text(), L"JonZ");
         form.ImageCancel.Press();
     });
     Ask(t, L"MessageGetUserName");
@@ -109,10 +109,10 @@ TEST(MessageNamePrompt, TypingShowsTheLivePreviewWithEmptyForBlankNames) {
     std::int16_t theme = 3;
     qs::ThemeCreate(t.app, theme);
     t.dialogs.Answer([](FrmMessage& form) {
-        form.TextName[1]->TypeText(L"Smith");
+        form.TextName(1).TypeText(L"Smith");
         EXPECT_EQ(form.TextMessage.Text(), Preview(L"Empty", L"Smith", L"Empty"));
-        form.TextName[0]->TypeText(L"Ann");
-        form.TextName[2]->TypeText(L"Annie");
+        form.TextName(0).TypeText(L"Ann");
+        form.TextName(2).TypeText(L"Annie");
         EXPECT_EQ(form.TextMessage.Text(), Preview(L"Ann", L"Smith", L"Annie"));
         EXPECT_EQ(qs::ui::PictureName(form.ImageOK.Picture()), L"ImageMU(17)");
         EXPECT_EQ(qs::ui::PictureName(form.ImageCancel.Picture()), L"ImageMU(17)");
@@ -126,9 +126,9 @@ TEST(MessageNamePrompt, PreviewAtStartUpUsesTheFixedImages) {
     t.app.place.StartingUp = true;
     t.dialogs.Answer([](FrmMessage& form) {
         EXPECT_EQ(qs::ui::PictureName(form.ImageOK.Picture()), L"ImageMZ(0)");
-        form.TextName[0]->TypeText(L"A");
+        form.TextName(0).TypeText(L"A");
         EXPECT_EQ(qs::ui::PictureName(form.ImageOK.Picture()), L"ImageMU(2)");
-        form.TextName[0]->TypeText(L"\b");
+        form.TextName(0).TypeText(L"\b");
         EXPECT_EQ(qs::ui::PictureName(form.ImageOK.Picture()), L"ImageMZ(0)");
         form.ImageCancel.Press();
     });
@@ -138,9 +138,9 @@ TEST(MessageNamePrompt, PreviewAtStartUpUsesTheFixedImages) {
 TEST(MessageNamePrompt, GetUserNameOKStoresTheThreeNames) {
     TestApp t;
     t.dialogs.Answer([](FrmMessage& form) {
-        form.TextName[0]->TypeText(L"Ann");
-        form.TextName[1]->TypeText(L"Smith");
-        form.TextName[2]->TypeText(L"Annie");
+        form.TextName(0).TypeText(L"Ann");
+        form.TextName(1).TypeText(L"Smith");
+        form.TextName(2).TypeText(L"Annie");
         form.ImageOK.Press();
     });
     Ask(t, L"MessageGetUserName");
@@ -162,9 +162,9 @@ TEST(MessageNamePrompt, ChangeUserNameWithAKnownFirstNameShowsThePreviewAtOnce) 
     t.app.family.UserNickName = L"Annie";
     t.dialogs.Answer([](FrmMessage& form) {
         EXPECT_EQ(form.TextMessage.Text(), Preview(L"Ann", L"Empty", L"Annie"));
-        EXPECT_EQ(form.TextName[0]->Text(), L"Ann");
-        EXPECT_EQ(form.TextName[2]->Text(), L"Annie");
-        EXPECT_EQ(form.TextName[0]->SelStart(), 3);
+        EXPECT_EQ(form.TextName(0).Text(), L"Ann");
+        EXPECT_EQ(form.TextName(2).Text(), L"Annie");
+        EXPECT_EQ(form.TextName(0).SelStart(), 3);
         form.ImageCancel.Press();
     });
     Ask(t, L"MessageChangeUserName");
@@ -189,9 +189,9 @@ TEST(MessageNamePrompt, ChangeUserNameOKReplacesTheNames) {
     t.app.family.UserLastName = L"Smith";
     t.dialogs.Answer([](FrmMessage& form) {
         // The caret stands at the start of every box but the first.
-        form.TextName[1]->SetSelStart(5);
-        form.TextName[1]->TypeText(L"\b\b\b\b\bJones");
-        form.TextName[2]->TypeText(L"Nan");
+        form.TextName(1).SetSelStart(5);
+        form.TextName(1).TypeText(L"\b\b\b\b\bJones");
+        form.TextName(2).TypeText(L"Nan");
         form.ImageOK.Press();
     });
     Ask(t, L"MessageChangeUserName");
@@ -221,8 +221,8 @@ TEST(MessageNamePrompt, TheNextMessageFindsTheNameBoxesHiddenAndEmpty) {
     Ask(t, L"MessageGetUserName");
     t.dialogs.Answer([](FrmMessage& form) {
         for (int i = 0; i < 3; ++i) {
-            EXPECT_FALSE(form.TextName[i]->Visible());
-            EXPECT_EQ(form.TextName[i]->Text(), L"");
+            EXPECT_FALSE(form.TextName(i).Visible());
+            EXPECT_EQ(form.TextName(i).Text(), L"");
         }
         EXPECT_EQ(form.TextMessage.Text(), L"The Drive you are trying to select is not ready.");
         form.ImageOK.Press();

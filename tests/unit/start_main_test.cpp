@@ -32,12 +32,12 @@ struct ProgramRun {
     }
     void Exit() { EXPECT_THROW(app.frmMain.Unload(), ProgramEnded); }
     void Add(int group, const std::wstring& name, const std::wstring& path) {
-        auto& names = *app.frmChoose.ComboListItemName[static_cast<std::size_t>(group)];
-        auto& paths = *app.frmChoose.ComboListItemPath[static_cast<std::size_t>(group)];
+        auto& names = app.frmChoose.ComboListItemName(group);
+        auto& paths = app.frmChoose.ComboListItemPath(group);
         paths.AddItem(path, names.AddItem(name));
         if (group < 3) {
-            auto& sideNames = *app.frmHid.ComboHDDItemName[static_cast<std::size_t>(group)];
-            auto& sidePaths = *app.frmHid.ComboHDDItemPath[static_cast<std::size_t>(group)];
+            auto& sideNames = app.frmHid.ComboHDDItemName(group);
+            auto& sidePaths = app.frmHid.ComboHDDItemPath(group);
             sidePaths.AddItem(path, sideNames.AddItem(name));
         }
     }
@@ -90,8 +90,8 @@ TEST_F(StartUp, SecondStartReadsWhatTheFirstExitWrote) {
     qs::Main(second.app);
     EXPECT_FALSE(second.Shown(L"MessageFisrtStart"));
     EXPECT_FALSE(second.Shown(L"MessageGetUserName"));
-    EXPECT_EQ(second.app.frmChoose.ComboListItemName[2]->List(0), L"myPlayer");
-    EXPECT_EQ(second.app.frmChoose.ComboListItemPath[4]->List(0), L"http://news.example");
+    EXPECT_EQ(second.app.frmChoose.ComboListItemName(2).List(0), L"myPlayer");
+    EXPECT_EQ(second.app.frmChoose.ComboListItemPath(4).List(0), L"http://news.example");
     EXPECT_EQ(second.app.frmMain.Left(), 1500);
     EXPECT_EQ(second.app.frmMain.Top(), 900);
     EXPECT_EQ(second.app.family.UserFirstName, L"Ann");
@@ -197,11 +197,11 @@ TEST_F(StartUp, FlashDriveOnTwoComputersSharesWebMailAndFlashItemsOnly) {
         EXPECT_TRUE(first.app.place.OnRemovable);
         first.Add(4, L"news", L"http://news.example");
         first.Add(2, L"local", L"C:\\Apps\\local.exe");
-        auto& names = *first.app.frmChoose.ComboListItemName[2];
-        auto& paths = *first.app.frmChoose.ComboListItemPath[2];
+        auto& names = first.app.frmChoose.ComboListItemName(2);
+        auto& paths = first.app.frmChoose.ComboListItemPath(2);
         paths.AddItem(L"E:\\Tools\\tool.exe", names.AddItem(L"tool"));
-        first.app.frmHid.ComboUSBItemPath[2]->AddItem(L"E:\\Tools\\tool.exe",
-                                                      first.app.frmHid.ComboUSBItemName[2]->AddItem(L"tool"));
+        first.app.frmHid.ComboUSBItemPath(2).AddItem(L"E:\\Tools\\tool.exe",
+                                                      first.app.frmHid.ComboUSBItemName(2).AddItem(L"tool"));
         first.Exit();
     }
     EXPECT_EQ(disk.FileBytes(L"E:\\Morvane\\Morvane Apps\\Quillstart\\ListUSBProg.Morvane"),
@@ -213,9 +213,9 @@ TEST_F(StartUp, FlashDriveOnTwoComputersSharesWebMailAndFlashItemsOnly) {
     ProgramRun second(disk);
     qs::Main(second.app);
     EXPECT_TRUE(disk.FolderExists(L"E:\\Morvane\\LAPTOP\\Quillstart"));
-    EXPECT_EQ(second.app.frmChoose.ComboListItemPath[4]->List(0), L"http://news.example");
-    ASSERT_EQ(second.app.frmChoose.ComboListItemName[2]->ListCount(), 1);
-    EXPECT_EQ(second.app.frmChoose.ComboListItemName[2]->List(0), L"tool");
+    EXPECT_EQ(second.app.frmChoose.ComboListItemPath(4).List(0), L"http://news.example");
+    ASSERT_EQ(second.app.frmChoose.ComboListItemName(2).ListCount(), 1);
+    EXPECT_EQ(second.app.frmChoose.ComboListItemName(2).List(0), L"tool");
     EXPECT_FALSE(second.Shown(L"MessageGetUserName"));
 }
 
