@@ -1,6 +1,7 @@
 #include "windows/frm_browse.h"
 
 #include "common/application.h"
+#include "windows/press_pictures.h"
 
 namespace qs {
 
@@ -99,19 +100,13 @@ void FrmBrowse::WireEvents() {
     TextAddName.KeyPress = [this](std::int16_t& key) { TextAddKeyPress(key); };
     TextAddPath.KeyPress = [this](std::int16_t& key) { TextAddKeyPress(key); };
     PictureAddOK.Click = [this] { PictureAddOKClick(); };
-    PictureAddOK.MouseDown = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
-        PictureAddOK.SetPicture(app_.theme.ImageZeroOver);
-    };
-    PictureAddOK.MouseUp = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
-        SetOKButton(PictureAddOK, PictureAddOK.Enabled());
-    };
+    SetPressPictures(
+        PictureAddOK, [this] { return app_.theme.ImageZeroOver; },
+        [this] { return PictureAddOK.Enabled() ? app_.theme.ImageZeroSet[2] : app_.theme.ImageZeroBlank; });
     PictureSelectOK.Click = [this] { PictureSelectOKClick(); };
-    PictureSelectOK.MouseDown = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
-        PictureSelectOK.SetPicture(app_.theme.ImageZeroOver);
-    };
-    PictureSelectOK.MouseUp = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
-        SetOKButton(PictureSelectOK, PictureSelectOK.Enabled());
-    };
+    SetPressPictures(
+        PictureSelectOK, [this] { return app_.theme.ImageZeroOver; },
+        [this] { return PictureSelectOK.Enabled() ? app_.theme.ImageZeroSet[2] : app_.theme.ImageZeroBlank; });
     PictureAddCancel.Click = [this] { PictureAddCancelClick(); };
     PictureAddCancel.MouseDown = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
         PictureAddCancelMouse();
