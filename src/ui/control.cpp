@@ -43,6 +43,12 @@ void Control::SetToolTipText(std::wstring text) {
     Notify(Property::ToolTip);
 }
 
+void Control::SetAccessibleName(std::wstring name) {
+    if (accessibleName_ == name) return;
+    accessibleName_ = std::move(name);
+    Notify(Property::AccessibleName);
+}
+
 void Control::SetBackColor(Color color) {
     if (backColor_ == color) return;
     backColor_ = color;

@@ -28,6 +28,7 @@ enum class Property {
     Value,
     Font,
     Colors,
+    AccessibleName,
 };
 
 enum class ControlKind {
@@ -87,6 +88,10 @@ public:
     void SetEnabled(bool enabled);
     const std::wstring& ToolTipText() const { return toolTip_; }
     void SetToolTipText(std::wstring text);
+    // What screen readers and automation call a control that has no
+    // caption or tooltip of its own: the caption of the label beside it.
+    const std::wstring& AccessibleName() const { return accessibleName_; }
+    void SetAccessibleName(std::wstring name);
 
     // Colours; DefaultColor leaves the look of the control's kind.
     Color BackColor() const { return backColor_; }
@@ -128,6 +133,7 @@ private:
     bool visible_ = true;
     bool enabled_ = true;
     std::wstring toolTip_;
+    std::wstring accessibleName_;
     std::int16_t tabIndex_ = 0;
     Color backColor_ = DefaultColor;
     Color foreColor_ = DefaultColor;
