@@ -124,7 +124,12 @@ void ControlWindow::Changed(ui::Property what) {
             break;
         case ui::Property::Visible:
             if (window_ != nullptr) {
+                const HWND focus = ::GetFocus();
+                const bool heldFocus = focus != nullptr && (focus == window_ || ::IsChild(window_, focus));
                 ::ShowWindow(window_, control_.Shown() ? SW_SHOWNA : SW_HIDE);
+                // A hidden control takes no keys: the focus it held goes on
+                // to the form's first control that can take it.
+                if (heldFocus && !control_.Shown()) form_.FocusFirstControl();
                 form_.FieldsMoved();
             }
             break;
@@ -132,7 +137,10 @@ void ControlWindow::Changed(ui::Property what) {
             if (window_ != nullptr) ::EnableWindow(window_, control_.Enabled() ? TRUE : FALSE);
             break;
         case ui::Property::Focus:
-            if (window_ != nullptr) ::SetFocus(window_);
+            if (window_ != nullptr) {
+                form_.ControlFocused(window_);
+                ::SetFocus(window_);
+            }
             break;
         case ui::Property::ToolTip:
             form_.SetToolTip(window_, control_.ToolTipText());

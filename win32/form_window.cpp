@@ -251,7 +251,15 @@ void FormWindow::ApplyVisible() {
             ::SetWindowLongPtrW(Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(opener));
         }
     }
-    ::ShowWindow(Handle(), form_.Visible() ? SW_SHOW : SW_HIDE);
+    if (!form_.Visible() && !form_.TakesFocusWhenShown() && ::GetActiveWindow() == Handle() &&
+        activatedFrom_ != nullptr && ::IsWindowVisible(activatedFrom_)) {
+        // The user had clicked into this window: the window that was active
+        // before it is active again before this one goes, so the window
+        // manager does not count this one as the last active window and
+        // hand it the focus when it shows again.
+        ::SetActiveWindow(activatedFrom_);
+    }
+    ::ShowWindow(Handle(), ShowCommand());
     // What only matters on screen (tips, drop targets) is made once the
     // window has been drawn, so the window shows without waiting for it.
     if (form_.Visible() && !shown_ && !firstShowingPosted_) {
@@ -259,6 +267,16 @@ void FormWindow::ApplyVisible() {
         ::SetTimer(Handle(), kFirstShownTimer, USER_TIMER_MINIMUM, nullptr);
     }
 }
+
+int FormWindow::ShowCommand() const {
+    if (!form_.Visible()) return SW_HIDE;
+    // A window manager activates a window shown with SW_SHOW a moment after
+    // ShowWindow has returned, and takes the keyboard focus with it: a form
+    // that leaves the focus where the program put it is shown inactive.
+    return form_.TakesFocusWhenShown() || form_.IsModal() ? SW_SHOW : SW_SHOWNOACTIVATE;
+}
+
+void FormWindow::ControlFocused(HWND child) { lastFocus_ = child; }
 
 void FormWindow::ApplyTopMost() {
     ::SetWindowPos(Handle(), form_.TopMost() ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
@@ -397,6 +415,7 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                 if (focus != nullptr && ::IsChild(window, focus)) lastFocus_ = focus;
                 return 0;
             }
+            activatedFrom_ = reinterpret_cast<HWND>(lParam);
             if (lastFocus_ != nullptr && ::IsChild(window, lastFocus_) && ::IsWindowVisible(lastFocus_)) {
                 ::SetFocus(lastFocus_);
             } else {

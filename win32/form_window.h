@@ -60,6 +60,11 @@ public:
     // Brings the form up for the user: shown, restored, in front, with the
     // keyboard focus on its last focused control or its first text box.
     void Surface();
+    // The program gave the focus to a child: it is the control that gets
+    // the focus back whenever the window is activated again.
+    void ControlFocused(HWND child);
+    // The focus goes to the first control in tab order that may take it.
+    void FocusFirstControl();
 
 private:
     static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -84,8 +89,8 @@ private:
     RECT ControlRect(const ui::Control& control) const;
     // True when the point lies on one of the form's strips.
     bool OverStrip(POINT point) const;
-    // The focus goes to the first control in tab order that may take it.
-    void FocusFirstControl();
+    // SW_SHOW, SW_SHOWNOACTIVATE or SW_HIDE, as the form asks.
+    int ShowCommand() const;
     // Puts the child windows in the tab order.
     void ApplyTabOrder();
     // Puts the frames beneath the controls they hold.
@@ -105,6 +110,8 @@ private:
     // True once every control's first window exists.
     bool created_ = false;
     HWND lastFocus_ = nullptr;
+    // The window that was active when this one was activated last.
+    HWND activatedFrom_ = nullptr;
     // The form's tooltip window, made at the first tip; owned by the form's window.
     HWND toolTips_ = nullptr;
     // Tips by child window, set before the window first showed.

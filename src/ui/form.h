@@ -74,6 +74,13 @@ public:
     bool WindowWaitsForShow() const { return windowWaitsForShow_; }
     void SetWindowWaitsForShow(bool waits) { windowWaitsForShow_ = waits; }
 
+    // A window that stands beside the bar while the user goes on typing in
+    // it (a pane, the QuickLauncher) shows without taking the keyboard
+    // focus; it becomes active only when the user clicks into it. Every
+    // other form (a message, a prompt) takes the focus when it shows.
+    bool TakesFocusWhenShown() const { return takesFocusWhenShown_; }
+    void SetTakesFocusWhenShown(bool takes) { takesFocusWhenShown_ = takes; }
+
     void SetBackend(Backend* backend) { backend_ = backend; }
     void AttachPeer(FormPeer* peer) { peer_ = peer; }
     FormPeer* Peer() const { return peer_; }
@@ -113,6 +120,7 @@ private:
     bool modal_ = false;
     bool topMost_ = false;
     bool windowWaitsForShow_ = false;
+    bool takesFocusWhenShown_ = true;
     Backend* backend_ = nullptr;
     FormPeer* peer_ = nullptr;
 };

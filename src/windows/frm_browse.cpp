@@ -34,6 +34,8 @@ FrmBrowse::FrmBrowse(Application& app)
       app_(app) {
     Move(0, 0, BrowseWidth, BrowseHeight);
     SetWindowWaitsForShow(true);
+    // It stands beside the bar: typing goes on in the Command box.
+    SetTakesFocusWhenShown(false);
     Layout();
     WireEvents();
 }

@@ -16,6 +16,8 @@ FrmChoose::FrmChoose(Application& app)
     // The pane's window is made when it first shows: the start only needs
     // its lists, which live in memory.
     SetWindowWaitsForShow(true);
+    // It stands beside the bar: typing goes on in the Command box.
+    SetTakesFocusWhenShown(false);
     LoadEvent = [this] { LaunchListLoad(app_); };
 }
 

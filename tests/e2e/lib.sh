@@ -177,6 +177,45 @@ e2e_enter_text() {
   e2e_fail "typed \"$1\" but the box holds \"$E2E_TEXT\""
 }
 
+# Reads which window holds the keyboard focus of Quillstart's thread into
+# E2E_FOCUS ("focus=", "edit=", "text=", "top=", "topclass=", "active="
+# lines of focus.exe).
+e2e_focus() {
+  wine "$E2E_TOOLS/focus.exe" >"$E2E_WORK/focus.out" 2>/dev/null || return 1
+  E2E_FOCUS=$(tr -d '\r' <"$E2E_WORK/focus.out")
+}
+
+e2e_focus_field() {
+  sed -n "s/^$1=//p" <<<"$E2E_FOCUS"
+}
+
+# True when the focus is on the n-th edit box of the bar (1 the Command box).
+e2e_focus_on_bar_edit() {
+  e2e_focus && [ "$(e2e_focus_field topclass)" = QuillstartBorderless ] && [ "$(e2e_focus_field edit)" = "$1" ]
+}
+
+e2e_focus_summary() {
+  tr '\n' '|' <<<"$E2E_FOCUS"
+}
+
+# After a road that must leave the keyboard focus in the Command box: the
+# focus is there, a few typed characters land in the box and are taken back.
+# Usage: e2e_expect_box_focus ROAD
+e2e_expect_box_focus() {
+  qs_poll 5 e2e_focus_on_bar_edit 1 || e2e_fail "after $1 the focus is not in the Command box: $(e2e_focus_summary)" ||
+    return 1
+  e2e_probe || e2e_fail "the probe found no Command box after $1" || return 1
+  local before=$E2E_TEXT
+  xdotool key End
+  xdotool type --delay 25 -- "zq"
+  qs_poll 5 e2e_text_is "${before}zq" ||
+    e2e_fail "after $1 typing did not reach the Command box: it holds \"$E2E_TEXT\", focus $(e2e_focus_summary)" ||
+    return 1
+  xdotool key BackSpace BackSpace
+  qs_poll 5 e2e_text_is "$before" || e2e_fail "after $1 the typed characters could not be taken back" || return 1
+  e2e_focus_on_bar_edit 1 || e2e_fail "after $1 the focus left the Command box: $(e2e_focus_summary)"
+}
+
 # Types a Command, checks that it arrived as typed, saves a screenshot and
 # presses Enter. Usage: e2e_command TEXT [SCREENSHOT_LABEL]
 e2e_command() {
