@@ -72,7 +72,11 @@ focus_web_box_holds() {
 }
 
 focus_roads_of_the_bar() {
-  focus_empty_box || return 1
+  # A launch from the bar leaves the focus where it was.
+  e2e_command 'w;focus.example' || return 1
+  e2e_wait_launch 'http://www.focus.example' || return 1
+  e2e_wait_text "" || return 1
+  e2e_expect_box_focus 'a launch from the bar' || return 1
   bar_click PictureWeb || return 1
   qs_poll 5 e2e_focus_on_bar_edit 2 ||
     e2e_fail "opening the web pane did not give the URL box the focus: $(e2e_focus_summary)" || return 1

@@ -52,6 +52,7 @@ first_start_asks_the_name_then_welcomes() {
   dialog_screenshot first-start-welcome
   dialog_click_button OK || return 1
   qs_poll 10 dialog_gone || e2e_fail "the welcome dialog stayed after OK" || return 1
+  e2e_expect_box_focus 'the first start' || return 1
 
   [ -d "$c/Morvane/Morvane Apps/Quillstart" ] || e2e_fail "the data folders were not made" || return 1
   start_expected Kinfold 7 0 -1 '""' '"Ada"' '""' '""' '""'
