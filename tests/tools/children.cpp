@@ -10,8 +10,16 @@
 //   item=<index>\t<text>
 // for each of its items, the text read with WM_GETTEXT (LB_GETTEXT for an
 // item) and its carriage
-// returns and line feeds written as \r and \n. Exit code 0 when found, 2 when
-// no such window is shown.
+// returns and line feeds written as \r and \n. After a drop-down list's line
+//   combo=<count>\t<index of the chosen item, -1 for none>
+//   item=<index>\t<text>
+// for its first 50 items (CB_GETLBTEXT).
+// Options: --title TITLE takes only a window of that title (the bar and the
+// borderless panes share a class); --centre TEXT prints only
+//   centre=<x>,<y>
+// the screen place of the middle of the first shown child whose window text
+// is TEXT (a picture button's text is its tooltip or its name), exit code 3
+// when none shows. Exit code 0 when found, 2 when no such window is shown.
 #include <windows.h>
 
 #include <cstdio>
@@ -23,14 +31,18 @@ namespace {
 
 struct Search {
     std::wstring cls;
+    std::wstring title;
     HWND found = nullptr;
 };
+
+std::wstring WindowText(HWND window);
 
 BOOL CALLBACK VisitTopLevel(HWND top, LPARAM param) {
     auto* search = reinterpret_cast<Search*>(param);
     wchar_t cls[128] = {};
     GetClassNameW(top, cls, static_cast<int>(std::size(cls)));
     if (search->cls != cls || !IsWindowVisible(top)) return TRUE;
+    if (!search->title.empty() && WindowText(top) != search->title) return TRUE;
     search->found = top;
     return FALSE;
 }
@@ -90,6 +102,44 @@ void PrintItems(HWND list) {
     }
 }
 
+std::wstring ComboItem(HWND combo, DWORD_PTR index) {
+    DWORD_PTR length = 0;
+    if (!SendMessageTimeoutW(combo, CB_GETLBTEXTLEN, index, 0, SMTO_ABORTIFHUNG, 2000, &length) || length > 4096) {
+        return {};
+    }
+    std::wstring text(length + 1, L'\0');
+    DWORD_PTR copied = 0;
+    if (!SendMessageTimeoutW(combo, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text.data()), SMTO_ABORTIFHUNG,
+                             2000, &copied)) {
+        return {};
+    }
+    text.resize(copied);
+    return text;
+}
+
+void PrintComboItems(HWND combo) {
+    DWORD_PTR count = 0;
+    DWORD_PTR chosen = 0;
+    if (!SendMessageTimeoutW(combo, CB_GETCOUNT, 0, 0, SMTO_ABORTIFHUNG, 2000, &count)) return;
+    if (!SendMessageTimeoutW(combo, CB_GETCURSEL, 0, 0, SMTO_ABORTIFHUNG, 2000, &chosen)) return;
+    std::printf("combo=%u\t%d\n", static_cast<unsigned>(count), static_cast<int>(static_cast<LRESULT>(chosen)));
+    for (DWORD_PTR i = 0; i < count && i < 50; ++i) {
+        std::printf("item=%u\t%s\n", static_cast<unsigned>(i), qs::tools::ToUtf8(OneLine(ComboItem(combo, i))).c_str());
+    }
+}
+
+struct Find {
+    std::wstring text;
+    HWND found = nullptr;
+};
+
+BOOL CALLBACK FindChild(HWND child, LPARAM param) {
+    auto* find = reinterpret_cast<Find*>(param);
+    if (!IsWindowVisible(child) || WindowText(child) != find->text) return TRUE;
+    find->found = child;
+    return FALSE;
+}
+
 BOOL CALLBACK PrintChild(HWND child, LPARAM) {
     wchar_t cls[128] = {};
     GetClassNameW(child, cls, static_cast<int>(std::size(cls)));
@@ -97,6 +147,7 @@ BOOL CALLBACK PrintChild(HWND child, LPARAM) {
     PrintRect("", child);
     std::printf("\t%s\n", qs::tools::ToUtf8(OneLine(WindowText(child))).c_str());
     if (_wcsicmp(cls, L"ListBox") == 0) PrintItems(child);
+    if (_wcsicmp(cls, L"ComboBox") == 0) PrintComboItems(child);
     return TRUE;
 }
 
@@ -104,11 +155,37 @@ BOOL CALLBACK PrintChild(HWND child, LPARAM) {
 
 int wmain(int argc, wchar_t** argv) {
     Search search;
-    search.cls = argc > 1 ? argv[1] : L"QuillstartDialog";
+    search.cls = L"QuillstartDialog";
+    std::wstring centreOf;
+    bool centre = false;
+    for (int i = 1; i < argc; ++i) {
+        const std::wstring arg = argv[i];
+        if (arg == L"--title" && i + 1 < argc) {
+            search.title = argv[++i];
+        } else if (arg == L"--centre" && i + 1 < argc) {
+            centre = true;
+            centreOf = argv[++i];
+        } else {
+            search.cls = arg;
+        }
+    }
     EnumWindows(VisitTopLevel, reinterpret_cast<LPARAM>(&search));
     if (search.found == nullptr) {
         std::fputs("no window\n", stderr);
         return 2;
+    }
+    if (centre) {
+        Find find;
+        find.text = centreOf;
+        EnumChildWindows(search.found, FindChild, reinterpret_cast<LPARAM>(&find));
+        if (find.found == nullptr) {
+            std::fputs("no such child\n", stderr);
+            return 3;
+        }
+        RECT r = {};
+        GetWindowRect(find.found, &r);
+        std::printf("centre=%ld,%ld\n", (r.left + r.right) / 2, (r.top + r.bottom) / 2);
+        return 0;
     }
     PrintRect("window=", search.found);
     std::printf("\ntitle=%s\n", qs::tools::ToUtf8(WindowText(search.found)).c_str());
