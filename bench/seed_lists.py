@@ -3,9 +3,10 @@
 groups at 32,767 items, with every File, Folder and Program target made on
 the disk, and the Set and COMData records counting them.
 
-Usage: seed_lists.py DRIVE_C_FOLDER full|spread
+Usage: seed_lists.py DRIVE_C_FOLDER full|spread|ten
   full    each group's targets in one folder (C:\\Bench\\Files\\f00000.txt ...)
   spread  the targets spread over 1,024 folders of 32 each
+  ten     ten items a group, their targets in one folder, as a yardstick
 """
 import os
 import sys
@@ -32,14 +33,15 @@ def target(mode, group, i):
 
 def main():
     drive_c, mode = sys.argv[1], sys.argv[2]
-    if mode not in ("full", "spread"):
-        sys.exit("seed_lists: mode is full or spread")
+    if mode not in ("full", "spread", "ten"):
+        sys.exit("seed_lists: mode is full, spread or ten")
+    items = 10 if mode == "ten" else ITEMS
     data = os.path.join(drive_c, DATA)
     os.makedirs(data, exist_ok=True)
     files = ["ListFile.Morvane", "ListFold.Morvane", "ListProg.Morvane", "ListMail.Morvane", "ListWeb.Morvane"]
     for group, file_name in enumerate(files):
         records = []
-        for i in range(ITEMS):
+        for i in range(items):
             if group < 3:
                 parts = target(mode, group, i)
                 host = os.path.join(drive_c, *parts)
@@ -57,7 +59,7 @@ def main():
             # Names sort as the program writes them: ascending, case ignored.
             records.append('"Item%05d","%s"' % (i, path))
         write_lines(os.path.join(data, file_name), records)
-    last = str(ITEMS - 1)
+    last = str(items - 1)
     write_lines(os.path.join(data, "Set.Morvane"), ["10", "57", "0", "0", '""', last, last, last, "8", "2", "0"])
     write_lines(os.path.join(data, "COMData.Morvane"), ["2", last, last])
 
