@@ -13,6 +13,7 @@ void ActionSetChoose(Application& app, std::int16_t& pane) {
         app.frmBrowse.Hide();
         if (pane != -1) {
             window.Load();
+            if (pane == 2) window.List.Prepare();
             window.PictureList.SetVisible(pane == 2);
             window.PictureCode.SetVisible(pane == 3);
             window.PictureTool.SetVisible(pane == 4);

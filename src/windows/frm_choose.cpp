@@ -17,11 +17,8 @@ FrmChoose::FrmChoose(Application& app)
       PictureHideList(*this, L"PictureHideList"),
       PictureHideCode(*this, L"PictureHideCode"),
       PictureHideTool(*this, L"PictureHideTool"),
+      List(app, *this),
       app_(app) {
-    for (std::int16_t group = 0; group < ComboListItemName.Count(); ++group) {
-        ComboListItemName(group).SetVisible(false);
-        ComboListItemPath(group).SetVisible(false);
-    }
     for (ui::PictureBox* hide : {&PictureHideList, &PictureHideCode, &PictureHideTool}) {
         hide->Click = [this] { PictureHideClick(); };
         SetPressPictures(
@@ -50,6 +47,12 @@ void FrmChoose::ChooseSetUp() {
         pane.picture.Place(pane.hide, 4680, 105, 330, 330);
         pane.hide.SetToolTipText(L"Close");
     }
+    List.SetUp();
+    // The panes' own areas come last in the tab order: an area lies
+    // beneath what it holds.
+    std::int16_t next = 1000;
+    for (ui::Control* hide : {&PictureHideList, &PictureHideCode, &PictureHideTool}) hide->SetTabIndex(next++);
+    for (ui::Control* area : {&PictureList, &PictureCode, &PictureTool}) area->SetTabIndex(next++);
 }
 
 void FrmChoose::PictureHideClick() {

@@ -12,6 +12,7 @@
 #include "ui/form.h"
 #include "ui/frame.h"
 #include "ui/picture_box.h"
+#include "windows/choose_list_pane.h"
 
 namespace qs {
 
@@ -38,6 +39,9 @@ public:
     ui::PictureBox PictureHideList;
     ui::PictureBox PictureHideCode;
     ui::PictureBox PictureHideTool;
+
+    // The Launch List pane, on PictureList.
+    LaunchListPane List;
 
     // The close buttons, and Esc anywhere in a pane: the bar clicks the open
     // pane's button again, which closes it.
