@@ -14,6 +14,12 @@ void ApplyByKind(FrmChoose& f, const ThemeState& s) {
     for (ui::Control* c : f.Controls()) {
         switch (c->Kind()) {
             case ui::ControlKind::Frame:
+                // The panes' pictures are areas without a border that let
+                // the window's face show through.
+                if (!static_cast<ui::Frame*>(c)->Bordered()) break;
+                c->SetBackColor(s.CurrentFormColor);
+                c->SetForeColor(s.CurrentTextColor);
+                break;
             case ui::ControlKind::ComboBox:
             case ui::ControlKind::CheckBox:
             case ui::ControlKind::OptionButton:

@@ -64,7 +64,7 @@ LaunchListPane::LaunchListPane(Application& app, FrmChoose& form)
       ImageListCancelRename(form, L"ImageListCancelRename", Groups),
       LabelListRenCancel(form, L"LabelListRenCancel", Groups, L"Cancel"),
       LabelNoList(form, L"LabelNoList", Groups * 6),
-      FrameConfirmClearListA(form, L"FrameConfirmClearListA", L"", false),
+      FrameConfirmClearListA(form, L"FrameConfirmClearListA"),
       ImagePicture(form, L"ImagePicture"),
       FrameConfirmClearListB(form, L"FrameConfirmClearListB", L"Are You Sure?"),
       LabelConfirmClearListA(form, L"LabelConfirmClearListA"),

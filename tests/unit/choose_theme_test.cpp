@@ -24,6 +24,10 @@ TEST(ChooseTheme, EachThemeColoursTheControlsByKindThenTheNamedOnes) {
             EXPECT_EQ(c->BackColor(), s.CurrentFormColor) << theme;
             EXPECT_EQ(c->ForeColor(), s.CurrentTextColor) << theme;
         }
+        EXPECT_EQ(p.FrameConfirmClearListA.BackColor(), s.CurrentFormColor) << theme;
+        // The panes' pictures show the window's face.
+        EXPECT_EQ(f.PictureList.BackColor(), ui::DefaultColor) << theme;
+        EXPECT_EQ(p.PictureGroupList(2).BackColor(), ui::DefaultColor) << theme;
         EXPECT_EQ(p.LabelListCap.ForeColor(), s.CurrentAccentColor) << theme;
         EXPECT_EQ(p.LabelItemName(3).ForeColor(), s.CurrentAccentColor) << theme;
         EXPECT_EQ(p.LabelListTotalB(0).ForeColor(), s.CurrentTextColor) << theme;
