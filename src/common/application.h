@@ -51,6 +51,11 @@ struct Application {
     std::int16_t PendingClick = -1;
     bool HelpOpen = false;
     bool QuickOpen = false;
+    // The Launch List group whose panel shows; kept between openings.
+    std::int16_t ListGroupShown = 0;
+    // The group button that a release paints as chosen. Nothing ever
+    // changes it, so it stays 0: the File button.
+    std::int16_t ShowListMark = 0;
 
     // The program's place.
     std::wstring WindowsFolder;

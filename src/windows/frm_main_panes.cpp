@@ -5,6 +5,7 @@
 #include "common/failure.h"
 #include "startup/always_on_top.h"
 #include "windows/frm_browse.h"
+#include "windows/frm_choose.h"
 #include "windows/frm_main.h"
 
 namespace qs {
@@ -51,7 +52,11 @@ void FrmMain::PictureMenuClick(std::int16_t& index) {
         FocusTextMain();
         return;
     }
-    if (app_.OpenMenuIndex < 2) ActionSetBrowse(app_, app_.OpenMenuIndex);
+    if (app_.OpenMenuIndex < 2) {
+        ActionSetBrowse(app_, app_.OpenMenuIndex);
+    } else {
+        ActionSetChoose(app_, app_.OpenMenuIndex);
+    }
 }
 
 void FrmMain::CloseOpenPane() {

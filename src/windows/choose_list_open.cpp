@@ -1,0 +1,28 @@
+// Opening a Launch List item from its panel: the pane closes first, then
+// the item opens by its group's kind.
+#include "command/launchers.h"
+#include "common/application.h"
+#include "startup/active_message.h"
+#include "windows/choose_list_pane.h"
+#include "windows/frm_choose.h"
+
+namespace qs {
+
+void LaunchListPane::ImageListOpenClick(std::int16_t index) {
+    form_.Hide();
+    app_.OpenMenuIndex = -1;
+    if (app_.SavedMainTop != -1) {
+        app_.frmMain.SetTop(app_.SavedMainTop);
+        app_.SavedMainTop = -1;
+    }
+    ui::TextBox& box = app_.frmMain.TextMain;
+    if (app_.frmMain.Visible() && box.Visible() && box.Enabled()) box.SetFocus();
+    app_.frmMain.TimerOnTop.SetEnabled(app_.settings.OptionAlwaysOnTop != 0);
+
+    ui::ComboBox& paths = form_.ComboListItemPath(index);
+    const std::wstring path(paths.List(paths.ListIndex()));
+    app_.MessageToShow = LaunchListItem(app_, index, path);
+    if (!app_.MessageToShow.empty()) MessageBug(app_);
+}
+
+}  // namespace qs
