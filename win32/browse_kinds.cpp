@@ -67,56 +67,6 @@ LRESULT FrameWindow::AreaProc(HWND window, UINT message, WPARAM wParam, LPARAM l
     return CallOwnProcedure(window, message, wParam, lParam);
 }
 
-void DriveBoxWindow::Create() {
-    CreateChild(L"COMBOBOX", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP);
-    if (Handle() == nullptr) return;
-    for (std::int32_t i = 0; i < drives_.ListCount(); ++i) ItemInserted(i);
-    WriteIndex();
-}
-
-RECT DriveBoxWindow::PixelRect() const {
-    // The window's height includes its dropped list: room for ten drives.
-    RECT r = ControlWindow::PixelRect();
-    r.bottom = r.top + (r.bottom - r.top) * 10;
-    return r;
-}
-
-void DriveBoxWindow::OnChanged(ui::Property what) {
-    if (Handle() != nullptr && what == ui::Property::ListIndex) WriteIndex();
-}
-
-void DriveBoxWindow::ItemInserted(std::int32_t index) {
-    if (Detached() || Handle() == nullptr) return;
-    const std::wstring drive(drives_.List(index));
-    ::SendMessageW(Handle(), CB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(drive.c_str()));
-}
-
-void DriveBoxWindow::ItemRemoved(std::int32_t index) {
-    if (Detached() || Handle() == nullptr) return;
-    ::SendMessageW(Handle(), CB_DELETESTRING, static_cast<WPARAM>(index), 0);
-}
-
-void DriveBoxWindow::ItemChanged(std::int32_t index) {
-    ItemRemoved(index);
-    ItemInserted(index);
-    if (Handle() != nullptr && drives_.ListIndex() == index) WriteIndex();
-}
-
-void DriveBoxWindow::ItemsCleared() {
-    if (Detached() || Handle() == nullptr) return;
-    ::SendMessageW(Handle(), CB_RESETCONTENT, 0, 0);
-}
-
-void DriveBoxWindow::WriteIndex() {
-    ::SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(drives_.ListIndex()), 0);
-}
-
-void DriveBoxWindow::OnCommand(WORD code) {
-    if (code != CBN_SELCHANGE || Handle() == nullptr) return;
-    const LRESULT index = ::SendMessageW(Handle(), CB_GETCURSEL, 0, 0);
-    drives_.UserSelected(index == CB_ERR ? -1 : static_cast<std::int32_t>(index));
-}
-
 std::wstring DirBoxWindow::ItemText(std::int32_t index) const {
     return std::wstring(static_cast<std::size_t>(dirs_.DepthAt(index)) * 3, L' ').append(dirs_.List(index));
 }
