@@ -4,6 +4,7 @@
 
 #include "dpi.h"
 #include "form_window.h"
+#include "mouse_state.h"
 #include "window_hook.h"
 
 namespace qs::win {
@@ -59,9 +60,8 @@ LRESULT FrameWindow::AreaProc(HWND window, UINT message, WPARAM wParam, LPARAM l
         return 1;
     }
     if (message == WM_MOUSEMOVE && !frame->Detached()) {
-        const std::int16_t button = (wParam & MK_LBUTTON) != 0 ? ui::LeftButton : std::int16_t{0};
         const UINT dpi = frame->Form().Dpi();
-        frame->frame_.UserMouseMove(button, 0, PixelsToTwips(GET_X_LPARAM(lParam), dpi),
+        frame->frame_.UserMouseMove(MouseButtonOf(wParam), ShiftStateOf(wParam), PixelsToTwips(GET_X_LPARAM(lParam), dpi),
                                     PixelsToTwips(GET_Y_LPARAM(lParam), dpi));
     }
     return CallOwnProcedure(window, message, wParam, lParam);
