@@ -95,6 +95,7 @@ public:
 
 protected:
     void OnChanged(ui::Property what) override;
+    bool TextIsName() const override { return true; }
     // The text the window shows for an entry.
     virtual std::wstring ItemText(std::int32_t index) const { return std::wstring(list_.List(index)); }
 

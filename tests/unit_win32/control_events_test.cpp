@@ -108,4 +108,27 @@ TEST_F(PictureEventsTest, APressAndReleaseOverThePictureAreMouseDownMouseUpAndCl
     EXPECT_EQ(events, L"DUC");
 }
 
+TEST_F(PictureEventsTest, ThePicturesWindowTextIsItsTipOrElseItsAccessibleName) {
+    using qs::test::TextOf;
+    EXPECT_EQ(TextOf(picture), L"");
+    form.Close.SetAccessibleName(L"Close");
+    EXPECT_EQ(TextOf(picture), L"Close");
+    form.Close.SetToolTipText(L"Close the pane");
+    EXPECT_EQ(TextOf(picture), L"Close the pane");
+    form.Close.SetAccessibleName(L"Shut");
+    EXPECT_EQ(TextOf(picture), L"Close the pane");
+    form.Close.SetToolTipText(L"");
+    EXPECT_EQ(TextOf(picture), L"Shut");
+}
+
+TEST_F(Win32BackendTest, AListsWindowTextIsItsAccessibleNameFromTheMomentItIsMade) {
+    form.HiddenList.SetAccessibleName(L"Launch Names");
+    form.HiddenList.SetVisible(true);
+    const HWND list = ::FindWindowExW(window, nullptr, L"LISTBOX", nullptr);
+    ASSERT_NE(list, nullptr);
+    EXPECT_EQ(qs::test::TextOf(list), L"Launch Names");
+    form.HiddenList.SetAccessibleName(L"Names");
+    EXPECT_EQ(qs::test::TextOf(list), L"Names");
+}
+
 }  // namespace
