@@ -159,12 +159,7 @@ LRESULT PictureBoxWindow::HandlePicture(UINT message, WPARAM wParam, LPARAM lPar
 LRESULT PictureBoxWindow::PictureProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* self) {
     auto* picture = static_cast<PictureBoxWindow*>(self);
     if (picture == nullptr || picture->Detached()) return CallOwnProcedure(window, message, wParam, lParam);
-    try {
-        return picture->HandlePicture(message, wParam, lParam);
-    } catch (...) {
-        // A failure of the program's handler must not take the window down.
-        return 0;
-    }
+    return picture->HandlePicture(message, wParam, lParam);
 }
 
 }  // namespace qs::win

@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <stdexcept>
 #include <string>
 
 #include "backend_test_form.h"
@@ -106,6 +107,39 @@ TEST_F(PictureEventsTest, APressAndReleaseOverThePictureAreMouseDownMouseUpAndCl
     ::SendMessageW(picture, WM_LBUTTONUP, 0, MAKELPARAM(4, 4));
     EXPECT_EQ(moved.count, 1);
     EXPECT_EQ(events, L"DUC");
+}
+
+TEST_F(Win32BackendTest, AHandlerThatThrowsEndsOnlyItsOwnEventAndTheNextOneStillFires) {
+    const HWND label = ::FindWindowExW(window, nullptr, L"STATIC", nullptr);
+    const HWND button = ::FindWindowExW(window, nullptr, L"BUTTON", nullptr);
+    ASSERT_NE(label, nullptr);
+    ASSERT_NE(button, nullptr);
+    int moves = 0;
+    form.Caption.MouseMove = [&](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
+        if (++moves == 1) throw std::runtime_error("handler failed");
+    };
+    int clicks = 0;
+    form.Button.Click = [&] {
+        if (++clicks == 1) throw std::runtime_error("handler failed");
+    };
+    // A label's window is hooked; a button's click comes through the form's window.
+    EXPECT_NO_THROW(::SendMessageW(label, WM_MOUSEMOVE, 0, MAKELPARAM(2, 2)));
+    EXPECT_NO_THROW(::SendMessageW(button, BM_CLICK, 0, 0));
+    ::SendMessageW(label, WM_MOUSEMOVE, 0, MAKELPARAM(3, 3));
+    ::SendMessageW(button, BM_CLICK, 0, 0);
+    EXPECT_EQ(moves, 2);
+    EXPECT_EQ(clicks, 2);
+    EXPECT_TRUE(::IsWindow(label));
+}
+
+TEST_F(PictureEventsTest, AKeyPressThatThrowsLeavesThePictureTakingKeys) {
+    int presses = 0;
+    form.Close.KeyPress = [&](std::int16_t&) {
+        if (++presses == 1) throw std::runtime_error("handler failed");
+    };
+    EXPECT_NO_THROW(::SendMessageW(picture, WM_CHAR, VK_RETURN, 1));
+    ::SendMessageW(picture, WM_CHAR, VK_RETURN, 1);
+    EXPECT_EQ(presses, 2);
 }
 
 TEST_F(PictureEventsTest, ThePicturesWindowTextIsItsTipOrElseItsAccessibleName) {
