@@ -1,6 +1,7 @@
 // Opening and closing the Add Item and Open pane, its option buttons, its
 // two text boxes and the close button.
 #include "common/application.h"
+#include "common/text_main_busy.h"
 #include "data/report_bug.h"
 #include "theme/holders.h"
 #include "theme/theme_colors.h"
@@ -39,10 +40,11 @@ void ActionSetBrowse(Application& app, std::int16_t& mode) {
         app.frmChoose.Hide();
         if (mode != -1) pane.OptionBrowse(mode).SetValue(true);
         pane.DirWork.SetPath(pane.CurrentFolder);
-        app.TextMainBusy = true;
-        pane.FileWork.Refresh();
-        pane.FileWork.SetListIndex(-1);
-        app.TextMainBusy = false;
+        {
+            const TextMainBusyScope busy(app);
+            pane.FileWork.Refresh();
+            pane.FileWork.SetListIndex(-1);
+        }
         pane.SetOKButton(pane.PictureSelectOK, false);
         const std::wstring title = mode == 0 ? L"Add Item" : L"Open";
         pane.LabelBrowseBack.SetCaption(title + L" :");
@@ -66,7 +68,6 @@ void ActionSetBrowse(Application& app, std::int16_t& mode) {
         ui::TextBox& box = app.frmMain.TextMain;
         if (app.frmMain.Visible() && box.Visible() && box.Enabled()) box.SetFocus();
     } catch (const std::exception&) {
-        app.TextMainBusy = false;
         ReportBug(app, L"ActionSetBrowse");
     }
 }
