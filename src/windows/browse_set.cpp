@@ -3,6 +3,7 @@
 #include "common/application.h"
 #include "common/text_main_busy.h"
 #include "data/report_bug.h"
+#include "theme/dark_theme.h"
 #include "theme/holders.h"
 #include "theme/theme_colors.h"
 #include "windows/frm_browse.h"
@@ -122,11 +123,11 @@ void FrmBrowse::PictureAddCancelMouse() {
 }
 
 void FrmBrowse::LabelAddCancelMouseMove() {
-    LabelAddCancel.SetForeColor(app_.settings.ThemeIndex >= 2 ? ColorWhite : ColorBlue);
+    LabelAddCancel.SetForeColor(IsDarkTheme(app_.settings.ThemeIndex) ? ColorWhite : ColorBlue);
 }
 
 void FrmBrowse::FrameHideWindowMouseMove() {
-    LabelAddCancel.SetForeColor(app_.settings.ThemeIndex >= 2 ? ColorLime : ColorGreen);
+    LabelAddCancel.SetForeColor(IsDarkTheme(app_.settings.ThemeIndex) ? ColorLime : ColorGreen);
 }
 
 }  // namespace qs
