@@ -4,6 +4,7 @@
 
 #include "dpi.h"
 #include "form_window.h"
+#include "mouse_state.h"
 #include "window_hook.h"
 
 namespace qs::win {
@@ -59,62 +60,11 @@ LRESULT FrameWindow::AreaProc(HWND window, UINT message, WPARAM wParam, LPARAM l
         return 1;
     }
     if (message == WM_MOUSEMOVE && !frame->Detached()) {
-        const std::int16_t button = (wParam & MK_LBUTTON) != 0 ? ui::LeftButton : std::int16_t{0};
         const UINT dpi = frame->Form().Dpi();
-        frame->frame_.UserMouseMove(button, 0, PixelsToTwips(GET_X_LPARAM(lParam), dpi),
+        frame->frame_.UserMouseMove(MouseButtonOf(wParam), ShiftStateOf(wParam), PixelsToTwips(GET_X_LPARAM(lParam), dpi),
                                     PixelsToTwips(GET_Y_LPARAM(lParam), dpi));
     }
     return CallOwnProcedure(window, message, wParam, lParam);
-}
-
-void DriveBoxWindow::Create() {
-    CreateChild(L"COMBOBOX", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP);
-    if (Handle() == nullptr) return;
-    for (std::int32_t i = 0; i < drives_.ListCount(); ++i) ItemInserted(i);
-    WriteIndex();
-}
-
-RECT DriveBoxWindow::PixelRect() const {
-    // The window's height includes its dropped list: room for ten drives.
-    RECT r = ControlWindow::PixelRect();
-    r.bottom = r.top + (r.bottom - r.top) * 10;
-    return r;
-}
-
-void DriveBoxWindow::OnChanged(ui::Property what) {
-    if (Handle() != nullptr && what == ui::Property::ListIndex) WriteIndex();
-}
-
-void DriveBoxWindow::ItemInserted(std::int32_t index) {
-    if (Detached() || Handle() == nullptr) return;
-    const std::wstring drive(drives_.List(index));
-    ::SendMessageW(Handle(), CB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(drive.c_str()));
-}
-
-void DriveBoxWindow::ItemRemoved(std::int32_t index) {
-    if (Detached() || Handle() == nullptr) return;
-    ::SendMessageW(Handle(), CB_DELETESTRING, static_cast<WPARAM>(index), 0);
-}
-
-void DriveBoxWindow::ItemChanged(std::int32_t index) {
-    ItemRemoved(index);
-    ItemInserted(index);
-    if (Handle() != nullptr && drives_.ListIndex() == index) WriteIndex();
-}
-
-void DriveBoxWindow::ItemsCleared() {
-    if (Detached() || Handle() == nullptr) return;
-    ::SendMessageW(Handle(), CB_RESETCONTENT, 0, 0);
-}
-
-void DriveBoxWindow::WriteIndex() {
-    ::SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(drives_.ListIndex()), 0);
-}
-
-void DriveBoxWindow::OnCommand(WORD code) {
-    if (code != CBN_SELCHANGE || Handle() == nullptr) return;
-    const LRESULT index = ::SendMessageW(Handle(), CB_GETCURSEL, 0, 0);
-    drives_.UserSelected(index == CB_ERR ? -1 : static_cast<std::int32_t>(index));
 }
 
 std::wstring DirBoxWindow::ItemText(std::int32_t index) const {

@@ -1,6 +1,7 @@
 #pragma once
 // The peers of the option button, the frame and the drive and folder boxes.
 // The file box is a plain list box (ListBoxWindow).
+#include "combo_box_window.h"
 #include "control_kinds.h"
 #include "ui/dir_list_box.h"
 #include "ui/drive_list_box.h"
@@ -43,27 +44,13 @@ private:
     ui::Frame& frame_;
 };
 
-// The drive box as a drop-down list.
-class DriveBoxWindow : public ControlWindow {
+// The drive box: a drop-down list with room for ten drives.
+class DriveBoxWindow : public ComboBoxWindow {
 public:
-    DriveBoxWindow(FormWindow& form, ui::DriveListBox& drives, int id)
-        : ControlWindow(form, drives, id), drives_(drives) {}
-    void Create() override;
-    void OnCommand(WORD code) override;
-    bool TakesFocus() const override { return Handle() != nullptr && Model().Shown() && Model().Enabled(); }
-    void ItemInserted(std::int32_t index) override;
-    void ItemRemoved(std::int32_t index) override;
-    void ItemChanged(std::int32_t index) override;
-    void ItemsCleared() override;
+    DriveBoxWindow(FormWindow& form, ui::DriveListBox& drives, int id) : ComboBoxWindow(form, drives, id) {}
 
 protected:
-    void OnChanged(ui::Property what) override;
-    RECT PixelRect() const override;
-
-private:
-    void WriteIndex();
-
-    ui::DriveListBox& drives_;
+    int DroppedRows() const override { return 10; }
 };
 
 // The folder box: a list box whose folders are indented by their depth; a

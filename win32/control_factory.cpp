@@ -17,8 +17,9 @@ std::unique_ptr<ControlWindow> MakeControlWindow(FormWindow& form, ui::Control& 
         case ui::ControlKind::Timer:
             return std::make_unique<TimerPeer>(form, static_cast<ui::Timer&>(control), id);
         case ui::ControlKind::ListBox:
-        case ui::ControlKind::ComboBox:
             return std::make_unique<ListBoxWindow>(form, static_cast<ui::ListBox&>(control), id);
+        case ui::ControlKind::ComboBox:
+            return std::make_unique<ComboBoxWindow>(form, static_cast<ui::ComboBox&>(control), id);
         case ui::ControlKind::PictureBox:
             return std::make_unique<PictureBoxWindow>(form, static_cast<ui::PictureBox&>(control), id);
         case ui::ControlKind::CheckBox:

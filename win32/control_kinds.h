@@ -11,7 +11,7 @@
 namespace qs::win {
 
 // A caption as a STATIC control over the form's face; a click on it is the
-// label's Click.
+// label's Click, the pointer moving over it its MouseMove.
 class LabelWindow : public ControlWindow {
 public:
     LabelWindow(FormWindow& form, ui::Label& label, int id) : ControlWindow(form, label, id), label_(label) {}
@@ -22,6 +22,8 @@ protected:
     void OnChanged(ui::Property what) override;
 
 private:
+    static LRESULT LabelProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* self);
+
     ui::Label& label_;
 };
 
@@ -93,6 +95,7 @@ public:
 
 protected:
     void OnChanged(ui::Property what) override;
+    bool TextIsName() const override { return true; }
     // The text the window shows for an entry.
     virtual std::wstring ItemText(std::int32_t index) const { return std::wstring(list_.List(index)); }
 

@@ -1,6 +1,7 @@
 #include "control_window.h"
 
 #include <optional>
+#include <string>
 #include <utility>
 
 #include "color_ref.h"
@@ -38,7 +39,14 @@ void ControlWindow::CreateChild(const wchar_t* windowClass, DWORD style, DWORD e
     if (window_ == nullptr) return;
     ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(ControlFont()), FALSE);
     if (!control_.ToolTipText().empty()) form_.SetToolTip(window_, control_.ToolTipText());
+    WriteName();
     form_.ChildCreated();
+}
+
+void ControlWindow::WriteName() {
+    if (window_ == nullptr || !TextIsName()) return;
+    const std::wstring& tip = control_.ToolTipText();
+    ::SetWindowTextW(window_, (tip.empty() ? control_.AccessibleName() : tip).c_str());
 }
 
 void ControlWindow::DestroyChild() {
@@ -144,6 +152,10 @@ void ControlWindow::Changed(ui::Property what) {
             break;
         case ui::Property::ToolTip:
             form_.SetToolTip(window_, control_.ToolTipText());
+            WriteName();
+            break;
+        case ui::Property::AccessibleName:
+            WriteName();
             break;
         case ui::Property::TabIndex:
             form_.TabIndexChanged(*this);

@@ -67,10 +67,16 @@ protected:
     // default it shows the form's face beneath it in the form's text colour.
     virtual COLORREF DefaultTextColor() const;
     virtual HBRUSH DefaultBackground(HDC dc);
+    // True for a window that shows no text of its own (a picture, a list):
+    // its window text is the name screen readers give it.
+    virtual bool TextIsName() const { return false; }
     FormWindow& Form() const { return form_; }
 
 private:
     void ApplyGeometry();
+    // Writes the control's name into a window whose text is its name: the
+    // tooltip, or where there is none the accessible name.
+    void WriteName();
 
     FormWindow& form_;
     ui::Control& control_;

@@ -9,6 +9,7 @@
 #include "dpi.h"
 #include "res/resource_ids.h"
 #include "styled_controls.h"
+#include "window_hook.h"
 #include "window_names.h"
 
 namespace qs::win {
@@ -453,13 +454,8 @@ LRESULT CALLBACK FormWindow::WindowProc(HWND window, UINT message, WPARAM wParam
         return ::DefWindowProcW(window, message, wParam, lParam);
     }
     if (self == nullptr || self->detached_) return ::DefWindowProcW(window, message, wParam, lParam);
-    try {
-        return self->HandleMessage(message, wParam, lParam);
-    } catch (...) {
-        // Every failure stops here: the program's windows never take the
-        // process down.
-        return 0;
-    }
+    // The controls' notifications and timers reach the program from here.
+    return AtEventBoundary([&] { return self->HandleMessage(message, wParam, lParam); });
 }
 
 }  // namespace qs::win

@@ -6,6 +6,7 @@
 #include "art/catalogue.h"
 #include "dpi.h"
 #include "form_window.h"
+#include "mouse_state.h"
 #include "picture_cache.h"
 #include "window_hook.h"
 #include "window_names.h"
@@ -28,15 +29,6 @@ const wchar_t* PictureClass() {
         return ::RegisterClassExW(&windowClass) != 0;
     }();
     return registered ? kPictureClass : L"STATIC";
-}
-
-// Shift, Ctrl and Alt as the mouse events report them: 1, 2 and 4.
-std::int16_t ShiftState(WPARAM keys) {
-    std::int16_t shift = 0;
-    if ((keys & MK_SHIFT) != 0) shift |= 1;
-    if ((keys & MK_CONTROL) != 0) shift |= 2;
-    if ((::GetKeyState(VK_MENU) & 0x8000) != 0) shift |= 4;
-    return shift;
 }
 
 }  // namespace
@@ -99,7 +91,7 @@ void PictureBoxWindow::Pressed(std::int16_t button, WPARAM keys, LPARAM at) {
     held_ = button;
     ::SetCapture(Handle());
     const UINT dpi = Form().Dpi();
-    picture_.UserMouseDown(button, ShiftState(keys), PixelsToTwips(GET_X_LPARAM(at), dpi),
+    picture_.UserMouseDown(button, ShiftStateOf(keys), PixelsToTwips(GET_X_LPARAM(at), dpi),
                            PixelsToTwips(GET_Y_LPARAM(at), dpi));
 }
 
@@ -113,7 +105,7 @@ void PictureBoxWindow::Released(std::int16_t button, WPARAM keys, LPARAM at) {
     const POINT point{GET_X_LPARAM(at), GET_Y_LPARAM(at)};
     const bool over = ::PtInRect(&client, point) != FALSE;
     const UINT dpi = Form().Dpi();
-    picture_.UserMouseUp(button, ShiftState(keys), PixelsToTwips(point.x, dpi), PixelsToTwips(point.y, dpi));
+    picture_.UserMouseUp(button, ShiftStateOf(keys), PixelsToTwips(point.x, dpi), PixelsToTwips(point.y, dpi));
     // MouseUp may already have closed the form.
     if (Detached() || button != ui::LeftButton || !over) return;
     picture_.UserClick();
@@ -145,12 +137,16 @@ LRESULT PictureBoxWindow::HandlePicture(UINT message, WPARAM wParam, LPARAM lPar
         case WM_CAPTURECHANGED:
             held_ = 0;
             return 0;
+        case WM_GETDLGCODE:
+            // Enter and Space on a picture that holds the focus are its keys.
+            return DLGC_WANTCHARS;
+        case WM_CHAR:
+            // The key is the picture's alone: nothing below it has a use for it.
+            if (picture_.Visible() && picture_.Enabled()) picture_.UserKeyPress(static_cast<wchar_t>(wParam));
+            return 0;
         case WM_MOUSEMOVE: {
             const UINT dpi = Form().Dpi();
-            const std::int16_t button = (wParam & MK_LBUTTON) != 0   ? ui::LeftButton
-                                        : (wParam & MK_RBUTTON) != 0 ? ui::RightButton
-                                                                     : 0;
-            picture_.UserMouseMove(button, ShiftState(wParam), PixelsToTwips(GET_X_LPARAM(lParam), dpi),
+            picture_.UserMouseMove(MouseButtonOf(wParam), ShiftStateOf(wParam), PixelsToTwips(GET_X_LPARAM(lParam), dpi),
                                    PixelsToTwips(GET_Y_LPARAM(lParam), dpi));
             // The tooltip listens further down the chain for the pointer.
             return CallOwnProcedure(window, message, wParam, lParam);
@@ -163,12 +159,7 @@ LRESULT PictureBoxWindow::HandlePicture(UINT message, WPARAM wParam, LPARAM lPar
 LRESULT PictureBoxWindow::PictureProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* self) {
     auto* picture = static_cast<PictureBoxWindow*>(self);
     if (picture == nullptr || picture->Detached()) return CallOwnProcedure(window, message, wParam, lParam);
-    try {
-        return picture->HandlePicture(message, wParam, lParam);
-    } catch (...) {
-        // A failure of the program's handler must not take the window down.
-        return 0;
-    }
+    return picture->HandlePicture(message, wParam, lParam);
 }
 
 }  // namespace qs::win

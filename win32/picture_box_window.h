@@ -1,7 +1,8 @@
 #pragma once
 // A picture button as a painted child: it shows the picture its control
 // names, drawn by the catalogue, over the form's face beneath it, and reports
-// presses as MouseDown, MouseUp and, when released over it, Click. A picture
+// presses as MouseDown, MouseUp and, when released over it, Click; its window
+// text is its name for screen readers and automation. A picture
 // box showing a strip has no window: the strip is part of the form's face.
 #include <windows.h>
 
@@ -18,6 +19,7 @@ public:
 
 protected:
     void OnChanged(ui::Property what) override;
+    bool TextIsName() const override { return true; }
 
 private:
     static LRESULT PictureProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* self);

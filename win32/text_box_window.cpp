@@ -167,12 +167,7 @@ LRESULT TextBoxWindow::EditProc(HWND window, UINT message, WPARAM wParam, LPARAM
     // A drop target is taken back while its window still exists.
     if (message == WM_DESTROY && box != nullptr) box->drop_.reset();
     if (box == nullptr || box->Detached()) return CallOwnProcedure(window, message, wParam, lParam);
-    try {
-        return box->HandleEdit(message, wParam, lParam);
-    } catch (...) {
-        // A failure of the program's handler must not take the window down.
-        return 0;
-    }
+    return box->HandleEdit(message, wParam, lParam);
 }
 
 }  // namespace qs::win

@@ -17,7 +17,9 @@ Hook* HookOf(HWND window) { return reinterpret_cast<Hook*>(::GetWindowLongPtrW(w
 LRESULT CALLBACK RouteMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     Hook* hook = HookOf(window);
     if (hook == nullptr) return ::DefWindowProcW(window, message, wParam, lParam);
-    if (message != WM_NCDESTROY) return hook->proc(window, message, wParam, lParam, hook->data);
+    if (message != WM_NCDESTROY) {
+        return AtEventBoundary([&] { return hook->proc(window, message, wParam, lParam, hook->data); });
+    }
     // The window's last message: nothing reaches the hook after it.
     ::SetWindowLongPtrW(window, GWLP_USERDATA, 0);
     const WNDPROC own = hook->own;

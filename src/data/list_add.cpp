@@ -2,6 +2,7 @@
 
 #include "common/application.h"
 #include "common/text_case.h"
+#include "common/text_main_busy.h"
 #include "data/launch_list.h"
 #include "data/report_bug.h"
 
@@ -12,12 +13,11 @@ namespace {
 
 // A write to TextMain from code, kept from being taken for typing.
 void EmptyTextMain(Application& app, bool focus) {
-    app.TextMainBusy = true;
+    const TextMainBusyScope busy(app);
     app.frmMain.TextMain.SetText(L"");
     if (focus && app.frmMain.Visible() && app.frmMain.TextMain.Visible() && app.frmMain.TextMain.Enabled()) {
         app.frmMain.TextMain.SetFocus();
     }
-    app.TextMainBusy = false;
 }
 
 }  // namespace

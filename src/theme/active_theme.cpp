@@ -3,6 +3,7 @@
 #include "common/application.h"
 #include "common/failure.h"
 #include "data/report_bug.h"
+#include "theme/dark_theme.h"
 #include "theme/holders.h"
 #include "theme/theme_colors.h"
 
@@ -53,9 +54,9 @@ void ThemeCreate(Application& app, std::int16_t& t) {
         ThemeState& s = app.theme;
         s.CurrentBoxColor = s.ThemeBoxColor[static_cast<std::size_t>(t)];
         s.CurrentFormColor = s.ThemeFormColor[static_cast<std::size_t>(t)];
-        s.CurrentTextColor = t > 1 ? ColorLight : ColorDark;
-        s.CurrentAccentColor = t > 1 ? ColorLime : ColorBlue;
-        s.CurrentAlertColor = t < 2 ? ui::Rgb(192, 0, 0) : ui::Rgb(255, 255, 0);
+        s.CurrentTextColor = IsDarkTheme(t) ? ColorLight : ColorDark;
+        s.CurrentAccentColor = IsDarkTheme(t) ? ColorLime : ColorBlue;
+        s.CurrentAlertColor = IsDarkTheme(t) ? ui::Rgb(255, 255, 0) : ui::Rgb(192, 0, 0);
         FillPictures(s, t);
         app.settings.ThemeIndex = t;
         ThemeApplyOnMain(app, t);

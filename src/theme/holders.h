@@ -3,6 +3,7 @@
 // lies in each control array of frmBut, frmHid and frmBack.
 #include <cstdint>
 
+#include "theme/dark_theme.h"
 #include "ui/picture.h"
 
 namespace qs {
@@ -18,7 +19,7 @@ inline ui::PictureRef FiveOfTheme(ui::PictureSlot slot, std::int16_t t, std::int
 // The two-way arrays (ImageBD, ImageMD, ImageSD): t * 2 + 1 for the dark
 // themes, t * 2 for the light ones.
 inline ui::PictureRef TwoWayOfTheme(ui::PictureSlot slot, std::int16_t t) {
-    return ui::HolderPicture(slot, t > 1 ? t * 2 + 1 : t * 2);
+    return ui::HolderPicture(slot, IsDarkTheme(t) ? t * 2 + 1 : t * 2);
 }
 // One picture a theme (the blanks, the special button, the strips, ...).
 inline ui::PictureRef OneOfTheme(ui::PictureSlot slot, std::int16_t t) { return ui::HolderPicture(slot, t); }

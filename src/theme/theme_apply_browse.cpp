@@ -2,6 +2,7 @@
 #include "common/application.h"
 #include "data/report_bug.h"
 #include "theme/active_theme.h"
+#include "theme/dark_theme.h"
 #include "theme/holders.h"
 #include "theme/theme_colors.h"
 
@@ -37,7 +38,7 @@ void ThemeApplyOnBrowse(Application& app, std::int16_t t) {
         for (ui::Label* label : {&f.LabelAddPath, &f.LabelOpen, &f.LabelAddSelectA}) {
             label->SetForeColor(s.CurrentTextColor);
         }
-        f.LabelAddCancel.SetForeColor(t > 1 ? ColorLime : ColorGreen);
+        f.LabelAddCancel.SetForeColor(IsDarkTheme(t) ? ColorLime : ColorGreen);
         f.PictureAddCancel.SetPicture(OneOfTheme(ui::PictureSlot::ImageMX, t));
         f.SetOKButton(f.PictureAddOK, f.PictureAddOK.Enabled());
         f.SetOKButton(f.PictureSelectOK, f.PictureSelectOK.Enabled());

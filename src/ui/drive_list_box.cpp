@@ -6,7 +6,7 @@
 namespace qs::ui {
 
 DriveListBox::DriveListBox(Form& owner, std::wstring name, FileBrowsing& files)
-    : ListBox(owner, ControlKind::DriveListBox, std::move(name), false), files_(files) {
+    : ComboBox(owner, ControlKind::DriveListBox, std::move(name), false), files_(files) {
     // A choice in the list, by the user or by code, is the box's Change.
     Click = [this] {
         if (Change) Change();

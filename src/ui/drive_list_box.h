@@ -2,17 +2,17 @@
 // The drive box: every drive as Windows shows it, "c: [System]" (the letter
 // in lower case, the volume name in brackets when the drive is ready and
 // named), one of them chosen. Change fires when the chosen drive changes,
-// by the user or by code.
+// by the user or by code. It is a drop-down: its keys reach KeyPress first.
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "platform/file_browsing.h"
-#include "ui/list_box.h"
+#include "ui/combo_box.h"
 
 namespace qs::ui {
 
-class DriveListBox : public ListBox {
+class DriveListBox : public ComboBox {
 public:
     DriveListBox(Form& owner, std::wstring name, FileBrowsing& files);
 

@@ -5,6 +5,7 @@
 #include "command/launchers.h"
 #include "common/application.h"
 #include "common/text_case.h"
+#include "common/text_main_busy.h"
 #include "data/list_add.h"
 #include "data/report_bug.h"
 #include "startup/active_message.h"
@@ -95,10 +96,11 @@ void FrmBrowse::PictureAddOKClick() {
         std::wstring key = ActionConfirmAddPath(app_, path, paths, names);
         if (!key.empty()) {
             // The file stays in the box; only the list's choice goes.
-            app_.TextMainBusy = true;
-            FileWork.Refresh();
-            FileWork.SetListIndex(-1);
-            app_.TextMainBusy = false;
+            {
+                const TextMainBusyScope busy(app_);
+                FileWork.Refresh();
+                FileWork.SetListIndex(-1);
+            }
             ShowMessage(app_, key);
             return;
         }
@@ -113,7 +115,6 @@ void FrmBrowse::PictureAddOKClick() {
         ActionListAddNew(app_, name, path, driveType, extension);
         PictureAddCancel.SetFocus();
     } catch (const std::exception&) {
-        app_.TextMainBusy = false;
         ReportBug(app_, L"frmBrowse:PictureAddOK:Click");
     }
 }

@@ -2,6 +2,7 @@
 // system-folder bounce, and the load of the window.
 #include "common/application.h"
 #include "common/text_case.h"
+#include "common/text_main_busy.h"
 #include "startup/active_message.h"
 #include "windows/frm_browse.h"
 
@@ -20,16 +21,17 @@ void FrmBrowse::FormLoad() {
     PictureBrowse.Move(120, 120, 5040, 8412);
     // The boxes start in the program's folder, the Windows drive's root
     // when that cannot be read.
-    app_.TextMainBusy = true;
-    DriveWork.Refresh();
-    try {
-        DirWork.SetPath(app_.ProgramFolder);
-    } catch (const RunTimeFailure&) {
-        DirWork.SetPath(app_.place.WindowsRoot);
+    {
+        const TextMainBusyScope busy(app_);
+        DriveWork.Refresh();
+        try {
+            DirWork.SetPath(app_.ProgramFolder);
+        } catch (const RunTimeFailure&) {
+            DirWork.SetPath(app_.place.WindowsRoot);
+        }
+        DriveWork.SetDrive(DirWork.Path());
+        FileWork.SetPath(DirWork.Path());
     }
-    DriveWork.SetDrive(DirWork.Path());
-    FileWork.SetPath(DirWork.Path());
-    app_.TextMainBusy = false;
     CurrentFolder = DirWork.Path();
     SelectedDrive = app_.sys.GetDrive(app_.sys.GetDriveName(CurrentFolder));
     SelectedDriveLetter = UCase(SelectedDrive.letter);
@@ -87,11 +89,12 @@ void FrmBrowse::DirWorkChange() {
         }
         return;
     }
-    app_.TextMainBusy = true;
-    DirWork.SetPath(CurrentFolder);
-    FileWork.SetPath(CurrentFolder);
-    DriveWork.SetDrive(CurrentFolder);
-    app_.TextMainBusy = false;
+    {
+        const TextMainBusyScope busy(app_);
+        DirWork.SetPath(CurrentFolder);
+        FileWork.SetPath(CurrentFolder);
+        DriveWork.SetDrive(CurrentFolder);
+    }
     if (SystemMessagePending) {
         SystemMessagePending = false;
         app_.MessageToShow = L"MessageSystemItemNotAllowed";

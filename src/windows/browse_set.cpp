@@ -1,7 +1,9 @@
 // Opening and closing the Add Item and Open pane, its option buttons, its
 // two text boxes and the close button.
 #include "common/application.h"
+#include "common/text_main_busy.h"
 #include "data/report_bug.h"
+#include "theme/dark_theme.h"
 #include "theme/holders.h"
 #include "theme/theme_colors.h"
 #include "windows/frm_browse.h"
@@ -39,10 +41,11 @@ void ActionSetBrowse(Application& app, std::int16_t& mode) {
         app.frmChoose.Hide();
         if (mode != -1) pane.OptionBrowse(mode).SetValue(true);
         pane.DirWork.SetPath(pane.CurrentFolder);
-        app.TextMainBusy = true;
-        pane.FileWork.Refresh();
-        pane.FileWork.SetListIndex(-1);
-        app.TextMainBusy = false;
+        {
+            const TextMainBusyScope busy(app);
+            pane.FileWork.Refresh();
+            pane.FileWork.SetListIndex(-1);
+        }
         pane.SetOKButton(pane.PictureSelectOK, false);
         const std::wstring title = mode == 0 ? L"Add Item" : L"Open";
         pane.LabelBrowseBack.SetCaption(title + L" :");
@@ -66,7 +69,6 @@ void ActionSetBrowse(Application& app, std::int16_t& mode) {
         ui::TextBox& box = app.frmMain.TextMain;
         if (app.frmMain.Visible() && box.Visible() && box.Enabled()) box.SetFocus();
     } catch (const std::exception&) {
-        app.TextMainBusy = false;
         ReportBug(app, L"ActionSetBrowse");
     }
 }
@@ -121,11 +123,11 @@ void FrmBrowse::PictureAddCancelMouse() {
 }
 
 void FrmBrowse::LabelAddCancelMouseMove() {
-    LabelAddCancel.SetForeColor(app_.settings.ThemeIndex >= 2 ? ColorWhite : ColorBlue);
+    LabelAddCancel.SetForeColor(IsDarkTheme(app_.settings.ThemeIndex) ? ColorWhite : ColorBlue);
 }
 
 void FrmBrowse::FrameHideWindowMouseMove() {
-    LabelAddCancel.SetForeColor(app_.settings.ThemeIndex >= 2 ? ColorLime : ColorGreen);
+    LabelAddCancel.SetForeColor(IsDarkTheme(app_.settings.ThemeIndex) ? ColorLime : ColorGreen);
 }
 
 }  // namespace qs

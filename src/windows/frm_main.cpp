@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "common/application.h"
+#include "common/text_main_busy.h"
 
 namespace qs {
 
@@ -133,13 +134,7 @@ void FrmMain::WireEvents() {
 }
 
 void FrmMain::SetTextMainQuietly(const std::wstring& text) {
-    // Cleared on every path out, so a failure inside the nested Change can
-    // never leave the guard standing.
-    struct Busy {
-        bool& flag;
-        explicit Busy(bool& f) : flag(f) { flag = true; }
-        ~Busy() { flag = false; }
-    } busy(app_.TextMainBusy);
+    const TextMainBusyScope busy(app_);
     TextMain.SetText(text);
 }
 

@@ -1,0 +1,44 @@
+#pragma once
+// A drop-down list as a COMBOBOX whose text is chosen from its list, never
+// typed. The window is told of the list item by item; the whole list is
+// written only when the window is first made, which for a hidden drop-down
+// is when it first shows. Every key typed reaches the control's KeyPress
+// first, which may swallow it; the arrows and the keys that open the list
+// are not typed keys and always work.
+#include <cstdint>
+
+#include "control_window.h"
+#include "ui/combo_box.h"
+
+namespace qs::win {
+
+class ComboBoxWindow : public ControlWindow {
+public:
+    ComboBoxWindow(FormWindow& form, ui::ComboBox& combo, int id) : ControlWindow(form, combo, id), combo_(combo) {}
+
+    void Create() override;
+    void OnCommand(WORD code) override;
+    bool TakesFocus() const override { return Handle() != nullptr && Model().Shown() && Model().Enabled(); }
+    COLORREF DefaultTextColor() const override { return ::GetSysColor(COLOR_WINDOWTEXT); }
+    HBRUSH DefaultBackground(HDC) override { return nullptr; }
+    void ItemInserted(std::int32_t index) override;
+    void ItemRemoved(std::int32_t index) override;
+    void ItemChanged(std::int32_t index) override;
+    void ItemsCleared() override;
+
+protected:
+    void OnChanged(ui::Property what) override;
+    // The window's height takes in the dropped list: this many rows.
+    virtual int DroppedRows() const { return 12; }
+    RECT PixelRect() const override;
+
+private:
+    static LRESULT ComboProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* self);
+    LRESULT HandleChar(HWND window, WPARAM wParam, LPARAM lParam);
+    void WriteItems();
+    void WriteIndex();
+
+    ui::ComboBox& combo_;
+};
+
+}  // namespace qs::win
