@@ -131,10 +131,7 @@ void ControlWindow::Changed(ui::Property what) {
             ApplyGeometry();
             break;
         case ui::Property::Visible:
-            if (window_ != nullptr) {
-                ::ShowWindow(window_, control_.Shown() ? SW_SHOWNA : SW_HIDE);
-                form_.FieldsMoved();
-            }
+            if (window_ != nullptr) ::ShowWindow(window_, control_.Shown() ? SW_SHOWNA : SW_HIDE);
             break;
         case ui::Property::Enabled:
             if (window_ != nullptr) ::EnableWindow(window_, control_.Enabled() ? TRUE : FALSE);
@@ -161,10 +158,14 @@ void ControlWindow::Changed(ui::Property what) {
         case ui::Property::Colors:
             // The window asks for its colours again as it repaints.
             if (window_ != nullptr) ::InvalidateRect(window_, nullptr, TRUE);
-            form_.FieldsMoved();
             break;
         default:
             break;
+    }
+    // A control without a window may still be part of the face (a strip).
+    if (what == ui::Property::Geometry || what == ui::Property::Visible || what == ui::Property::Colors ||
+        what == ui::Property::Picture) {
+        form_.FieldsMoved();
     }
     OnChanged(what);
 }

@@ -125,6 +125,8 @@ void FormWindow::TabIndexChanged(ControlWindow& control) {
 }
 
 void FormWindow::ChildCreated() {
+    // A new window may bring a field the face draws a line round.
+    faceDirty_ = true;
     if (created_) ApplyTabOrder();
 }
 
@@ -160,6 +162,7 @@ LONG FormWindow::ClientHeight() const {
 }
 
 void FormWindow::FieldsMoved() {
+    faceDirty_ = true;
     if (Handle() != nullptr) ::InvalidateRect(Handle(), nullptr, FALSE);
 }
 
