@@ -155,6 +155,15 @@ ControlWindow* FormWindow::ControlById(int id) const {
     return controls_[static_cast<std::size_t>(index)].get();
 }
 
+ControlWindow* FormWindow::ControlOfWindow(HWND child) const {
+    ControlWindow* control = ControlById(::GetDlgCtrlID(child));
+    if (control != nullptr && control->Handle() == child) return control;
+    for (const auto& candidate : controls_) {
+        if (candidate->OwnsPart(child)) return candidate.get();
+    }
+    return nullptr;
+}
+
 LONG FormWindow::ClientHeight() const {
     RECT client{};
     ::GetClientRect(Handle(), &client);
@@ -341,7 +350,7 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_CTLCOLORBTN:
         case WM_CTLCOLORLISTBOX:
             // Each control answers for its own colours.
-            if (ControlWindow* control = ControlById(::GetDlgCtrlID(reinterpret_cast<HWND>(lParam)))) {
+            if (ControlWindow* control = ControlOfWindow(reinterpret_cast<HWND>(lParam))) {
                 if (const HBRUSH brush = control->ControlColor(reinterpret_cast<HDC>(wParam))) {
                     return reinterpret_cast<LRESULT>(brush);
                 }

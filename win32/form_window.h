@@ -96,6 +96,8 @@ private:
     // Puts the frames beneath the controls they hold.
     void PutFramesBeneath();
     ControlWindow* ControlById(int id) const;
+    // The peer whose window, or a part of it (a drop-down's list), this is.
+    ControlWindow* ControlOfWindow(HWND child) const;
     void ReportMove();
 
     ui::Form& form_;
