@@ -148,7 +148,8 @@ TEST_F(ComboBoxWindowTest, TheBoxAndItsDroppedListTakeTheControlsColours) {
     for (const auto& [message, part] : {std::pair{UINT{WM_CTLCOLOREDIT}, combo},
                                         std::pair{UINT{WM_CTLCOLORLISTBOX}, info.hwndList}}) {
         const HDC dc = ::GetDC(part);
-        const auto brush = ::SendMessageW(window, message, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(part));
+        const auto brush =
+            ::SendMessageW(window, message, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(part));
         EXPECT_NE(brush, 0);
         EXPECT_EQ(::GetBkColor(dc), RGB(10, 20, 30));
         EXPECT_EQ(::GetTextColor(dc), RGB(200, 210, 220));
