@@ -146,8 +146,8 @@ LRESULT PictureBoxWindow::HandlePicture(UINT message, WPARAM wParam, LPARAM lPar
             return 0;
         case WM_MOUSEMOVE: {
             const UINT dpi = Form().Dpi();
-            picture_.UserMouseMove(MouseButtonOf(wParam), ShiftStateOf(wParam), PixelsToTwips(GET_X_LPARAM(lParam), dpi),
-                                   PixelsToTwips(GET_Y_LPARAM(lParam), dpi));
+            picture_.UserMouseMove(MouseButtonOf(wParam), ShiftStateOf(wParam),
+                                   PixelsToTwips(GET_X_LPARAM(lParam), dpi), PixelsToTwips(GET_Y_LPARAM(lParam), dpi));
             // The tooltip listens further down the chain for the pointer.
             return CallOwnProcedure(window, message, wParam, lParam);
         }
