@@ -60,6 +60,7 @@ void ThemeCreate(Application& app, std::int16_t& t) {
         app.settings.ThemeIndex = t;
         ThemeApplyOnMain(app, t);
         ThemeApplyOnBrowse(app, t);
+        ThemeApplyOnQuick(app, t);
         if (app.place.StartingUp) app.HelpOpen = false;
     } catch (const std::exception&) {
         ReportBug(app, L"ThemeCreate");
