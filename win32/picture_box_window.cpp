@@ -49,12 +49,26 @@ void PictureBoxWindow::Create() {
 }
 
 void PictureBoxWindow::MakeWindow() {
-    CreateChild(PictureClass(), 0);
+    // A picture that answers keys is reached by Tab like any other control.
+    CreateChild(PictureClass(), picture_.KeyPress ? WS_TABSTOP : 0);
     if (Handle() == nullptr) return;
     HookWindow(Handle(), PictureProc, this);
+    WriteName();
+}
+
+void PictureBoxWindow::WriteName() {
+    // Screen readers and automation name a picture by its window text: its
+    // tooltip, or the name it was given when it has none.
+    const std::wstring& name =
+        picture_.ToolTipText().empty() ? picture_.AccessibleName() : picture_.ToolTipText();
+    ::SetWindowTextW(Handle(), name.c_str());
 }
 
 void PictureBoxWindow::OnChanged(ui::Property what) {
+    if (Handle() != nullptr && (what == ui::Property::ToolTip || what == ui::Property::AccessibleName)) {
+        WriteName();
+        return;
+    }
     if (what != ui::Property::Picture) {
         if (Handle() != nullptr && (what == ui::Property::Geometry || what == ui::Property::Enabled)) {
             ::InvalidateRect(Handle(), nullptr, FALSE);
@@ -92,6 +106,8 @@ void PictureBoxWindow::Paint() {
     const BITMAPINFO info = TopDownInfo(width, height);
     ::SetDIBitsToDevice(paint.Get(), 0, 0, static_cast<DWORD>(width), static_cast<DWORD>(height), 0, 0, 0,
                         static_cast<UINT>(height), canvas.pixels.data(), &info, DIB_RGB_COLORS);
+    // A picture that holds the keyboard shows it as buttons do.
+    if (::GetFocus() == window) ::DrawFocusRect(paint.Get(), &client);
 }
 
 void PictureBoxWindow::Pressed(std::int16_t button, WPARAM keys, LPARAM at) {
@@ -145,6 +161,13 @@ LRESULT PictureBoxWindow::HandlePicture(UINT message, WPARAM wParam, LPARAM lPar
         case WM_CAPTURECHANGED:
             held_ = 0;
             return 0;
+        case WM_CHAR:
+            picture_.UserKeyPress(static_cast<wchar_t>(wParam));
+            return 0;
+        case WM_SETFOCUS:
+        case WM_KILLFOCUS:
+            ::InvalidateRect(window, nullptr, FALSE);
+            return CallOwnProcedure(window, message, wParam, lParam);
         case WM_MOUSEMOVE: {
             const UINT dpi = Form().Dpi();
             const std::int16_t button = (wParam & MK_LBUTTON) != 0   ? ui::LeftButton

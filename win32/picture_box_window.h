@@ -1,8 +1,10 @@
 #pragma once
 // A picture button as a painted child: it shows the picture its control
 // names, drawn by the catalogue, over the form's face beneath it, and reports
-// presses as MouseDown, MouseUp and, when released over it, Click. A picture
-// box showing a strip has no window: the strip is part of the form's face.
+// presses as MouseDown, MouseUp and, when released over it, Click; keys typed
+// while it has the focus as KeyPress. Its window text is its tooltip, the
+// name screen readers give it. A picture box showing a strip has no window:
+// the strip is part of the form's face.
 #include <windows.h>
 
 #include "control_window.h"
@@ -22,6 +24,7 @@ protected:
 private:
     static LRESULT PictureProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* self);
     void MakeWindow();
+    void WriteName();
     LRESULT HandlePicture(UINT message, WPARAM wParam, LPARAM lParam);
     void Paint();
     void Pressed(std::int16_t button, WPARAM keys, LPARAM at);

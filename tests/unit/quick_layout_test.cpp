@@ -102,7 +102,10 @@ TEST(QuickLayout, LoadSetsTheFullSizeNoPendingGroupAndThePreferredGroup) {
     t.app.settings.QuickDefaultItem = 3;
     t.quick().SetWidth(588);
     t.quick().QuickPendingGroup = 2;
+    t.quick().ImageQuick(7).Move(0, 0, 168, 168);
     t.LoadQuick();
+    EXPECT_EQ(t.quick().ImageQuick(7).Left(), 2400 + 156 + 360 * 7);
+    EXPECT_EQ(t.quick().ImageQuick(7).Top(), 60);
     EXPECT_EQ(t.quick().Width(), 10332);
     EXPECT_EQ(t.quick().Height(), 744);
     EXPECT_EQ(t.quick().QuickPendingGroup, -1);

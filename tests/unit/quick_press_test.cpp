@@ -109,6 +109,19 @@ TEST_F(QuickPress, EnterOrSpaceTurnsThePagesAndTogglesTheSizes) {
     EXPECT_EQ(q().Height(), 744);
 }
 
+TEST_F(QuickPress, EveryPictureButtonIsNamedByItsTooltip) {
+    q().ImageQuickChoice(2).Press();
+    q().ImageQuickForward.Press();
+    for (const qs::ui::Control* control : q().Controls()) {
+        const auto* button = dynamic_cast<const qs::ui::PictureBox*>(control);
+        if (button == nullptr || !button->Click) continue;
+        EXPECT_FALSE(button->ToolTipText().empty()) << std::string(button->Name().begin(), button->Name().end());
+        EXPECT_TRUE(button->KeyPress) << std::string(button->Name().begin(), button->Name().end());
+    }
+    EXPECT_EQ(q().ImageQuickChoice(2).ToolTipText(), L"Show Buttons Of Program List");
+    for (std::int16_t i = 0; i < 5; ++i) EXPECT_EQ(q().ImageQuick(i).ToolTipText(), QuickApp::ItemName(21 + i));
+}
+
 TEST_F(QuickPress, EveryButtonHasItsOwnPlaceInTheTabOrder) {
     std::vector<std::int16_t> tabs;
     for (const auto& b : q().ImageQuickChoice) tabs.push_back(b->TabIndex());
