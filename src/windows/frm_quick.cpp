@@ -52,6 +52,8 @@ FrmQuick::FrmQuick(Application& app)
     Move(0, 0, QuickWidthWide, QuickHeightFull);
     // Loaded at start but shown only from the bar's button.
     SetWindowWaitsForShow(true);
+    // It stands beside the bar: typing goes on in the Command box.
+    SetTakesFocusWhenShown(false);
     PlaceControls();
     WireEvents();
 }

@@ -169,6 +169,10 @@ TEST_F(QuickHandover, EnterOnTheHideButtonHidesTheWindowToo) {
     EXPECT_FALSE(t.app.QuickOpen);
 }
 
+TEST_F(QuickHandover, TheWindowShowsWithoutTakingTheKeyboardFromTheCommandBox) {
+    EXPECT_FALSE(q().TakesFocusWhenShown());
+}
+
 TEST_F(QuickHandover, ShowingTheWindowTakesTheFocusFromNothing) {
     t.AddItems(2, 1);
     Load(2);
