@@ -17,6 +17,9 @@ void ActionSetChoose(Application& app, std::int16_t& pane) {
             window.PictureList.SetVisible(pane == 2);
             window.PictureCode.SetVisible(pane == 3);
             window.PictureTool.SetVisible(pane == 4);
+            // The window is named after the pane in front, for the task
+            // list and screen readers.
+            window.SetCaption(pane == 2 ? L"Launch List" : pane == 3 ? L"Code And Command" : L"Preferences");
             PlacePaneByTheBar(app, window);
             window.Show();
         } else {

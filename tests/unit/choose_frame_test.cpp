@@ -45,6 +45,7 @@ TEST_F(ChooseFrame, EachOfTheButtonsTwoToFourShowsItsOwnPaneAndHidesTheOthers) {
         EXPECT_EQ(choose.PictureList.Visible(), pane == 2);
         EXPECT_EQ(choose.PictureCode.Visible(), pane == 3);
         EXPECT_EQ(choose.PictureTool.Visible(), pane == 4);
+        EXPECT_EQ(choose.Caption(), pane == 2 ? L"Launch List" : pane == 3 ? L"Code And Command" : L"Preferences");
     }
 }
 
