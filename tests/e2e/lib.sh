@@ -216,16 +216,17 @@ e2e_expect_box_focus() {
   e2e_focus_on_bar_edit 1 || e2e_fail "after $1 the focus left the Command box: $(e2e_focus_summary)"
 }
 
-# The screen place of the middle of a window's shown child, found by its
-# window text (a picture button's is its tooltip or its name), into
-# E2E_X and E2E_Y. Usage: e2e_child_centre CLASS TITLE TEXT
+# The screen place of the middle of a window's shown picture button, found
+# by its window text (its tooltip or its name), into E2E_X and E2E_Y.
+# Usage: e2e_child_centre CLASS TITLE TEXT [CHILD_CLASS]
 e2e_child_centre() {
-  wine "$E2E_TOOLS/children.exe" "$1" --title "$2" --centre "$3" >"$E2E_WORK/centre-child.out" 2>/dev/null || return 1
+  wine "$E2E_TOOLS/children.exe" "$1" --title "$2" --centre "$3" --class "${4:-QuillstartPicture}" \
+    >"$E2E_WORK/centre-child.out" 2>/dev/null || return 1
   IFS=, read -r E2E_X E2E_Y <<<"$(tr -d '\r' <"$E2E_WORK/centre-child.out" | sed -n 's/^centre=//p')"
   [ -n "$E2E_Y" ]
 }
 
-# Clicks a window's shown child by its window text.
+# Clicks a window's shown picture button by its window text.
 # Usage: e2e_click_child CLASS TITLE TEXT
 e2e_click_child() {
   qs_poll 5 e2e_child_centre "$@" || e2e_fail "no shown \"$3\" in the window \"$2\"" || return 1

@@ -19,7 +19,7 @@
 //   centre=<x>,<y>
 // the screen place of the middle of the first shown child whose window text
 // is TEXT (a picture button's text is its tooltip or its name), exit code 3
-// when none shows. Exit code 0 when found, 2 when no such window is shown.
+// when none shows; with --class CLASS only a child of that class counts. Exit code 0 when found, 2 when no such window is shown.
 #include <windows.h>
 
 #include <cstdio>
@@ -130,12 +130,16 @@ void PrintComboItems(HWND combo) {
 
 struct Find {
     std::wstring text;
+    std::wstring cls;
     HWND found = nullptr;
 };
 
 BOOL CALLBACK FindChild(HWND child, LPARAM param) {
     auto* find = reinterpret_cast<Find*>(param);
     if (!IsWindowVisible(child) || WindowText(child) != find->text) return TRUE;
+    wchar_t cls[128] = {};
+    GetClassNameW(child, cls, static_cast<int>(std::size(cls)));
+    if (!find->cls.empty() && _wcsicmp(cls, find->cls.c_str()) != 0) return TRUE;
     find->found = child;
     return FALSE;
 }
@@ -157,11 +161,14 @@ int wmain(int argc, wchar_t** argv) {
     Search search;
     search.cls = L"QuillstartDialog";
     std::wstring centreOf;
+    std::wstring childClass;
     bool centre = false;
     for (int i = 1; i < argc; ++i) {
         const std::wstring arg = argv[i];
         if (arg == L"--title" && i + 1 < argc) {
             search.title = argv[++i];
+        } else if (arg == L"--class" && i + 1 < argc) {
+            childClass = argv[++i];
         } else if (arg == L"--centre" && i + 1 < argc) {
             centre = true;
             centreOf = argv[++i];
@@ -177,6 +184,7 @@ int wmain(int argc, wchar_t** argv) {
     if (centre) {
         Find find;
         find.text = centreOf;
+        find.cls = childClass;
         EnumChildWindows(search.found, FindChild, reinterpret_cast<LPARAM>(&find));
         if (find.found == nullptr) {
             std::fputs("no such child\n", stderr);
