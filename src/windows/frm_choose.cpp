@@ -18,6 +18,7 @@ FrmChoose::FrmChoose(Application& app)
       PictureHideCode(*this, L"PictureHideCode"),
       PictureHideTool(*this, L"PictureHideTool"),
       List(app, *this),
+      Code(app, *this),
       Preferences(app, *this),
       app_(app) {
     for (ui::PictureBox* hide : {&PictureHideList, &PictureHideCode, &PictureHideTool}) {
@@ -53,6 +54,7 @@ void FrmChoose::ChooseSetUp() {
     }
     List.SetUp();
     Preferences.SetUp();
+    Code.SetUp();
     // The panes' own areas come last in the tab order: an area lies
     // beneath what it holds.
     std::int16_t next = 1000;

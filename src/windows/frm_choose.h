@@ -12,6 +12,7 @@
 #include "ui/form.h"
 #include "ui/frame.h"
 #include "ui/picture_box.h"
+#include "windows/choose_code_pane.h"
 #include "windows/choose_list_pane.h"
 #include "windows/choose_tool_pane.h"
 
@@ -43,6 +44,8 @@ public:
 
     // The Launch List pane, on PictureList.
     LaunchListPane List;
+    // The Code And Command pane, on PictureCode.
+    CodeCommandPane Code;
     // The Preferences pane, on PictureTool.
     PreferencesPane Preferences;
 
