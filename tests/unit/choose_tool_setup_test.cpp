@@ -180,3 +180,21 @@ TEST(ChooseToolSetUp, ThePaneLiesInsidePictureToolWithEachGroupOfOptionsInItsOwn
 
 }  // namespace
 }  // namespace qs::test
+
+namespace qs::test {
+namespace {
+
+TEST(ChooseToolStart, TheStartCopiesTheSavedWordAndSizeIntoTheEditCopiesAndSpreadsTheBits) {
+    TestApp t;
+    t.app.settings.OptionWord = 42;
+    t.app.settings.FontSizeSetting = 12;
+    AtStartsavedOptions(t.app, t.app.settings.OptionWord);
+    AtStartDefaultValue(t.app);
+    EXPECT_EQ(t.app.settings.OptionWordEdit, 42);
+    EXPECT_EQ(t.app.settings.FontSizeEdit, 12);
+    const std::array<std::int16_t, 6> bits = {0, 2, 0, 8, 0, 32};
+    EXPECT_EQ(t.app.settings.OptionBits, bits);
+}
+
+}  // namespace
+}  // namespace qs::test
