@@ -61,8 +61,8 @@ LRESULT FrameWindow::AreaProc(HWND window, UINT message, WPARAM wParam, LPARAM l
     }
     if (message == WM_MOUSEMOVE && !frame->Detached()) {
         const UINT dpi = frame->Form().Dpi();
-        frame->frame_.UserMouseMove(MouseButtonOf(wParam), ShiftStateOf(wParam), PixelsToTwips(GET_X_LPARAM(lParam), dpi),
-                                    PixelsToTwips(GET_Y_LPARAM(lParam), dpi));
+        frame->frame_.UserMouseMove(MouseButtonOf(wParam), ShiftStateOf(wParam),
+                                    PixelsToTwips(GET_X_LPARAM(lParam), dpi), PixelsToTwips(GET_Y_LPARAM(lParam), dpi));
     }
     return CallOwnProcedure(window, message, wParam, lParam);
 }

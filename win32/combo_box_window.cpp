@@ -12,6 +12,9 @@ void ComboBoxWindow::Create() {
     CreateChild(L"COMBOBOX", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP);
     if (Handle() == nullptr) return;
     HookWindow(Handle(), ComboProc, this);
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof(info);
+    if (::GetComboBoxInfo(Handle(), &info)) droppedList_ = info.hwndList;
     WriteItems();
 }
 

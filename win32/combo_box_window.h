@@ -19,6 +19,7 @@ public:
     void Create() override;
     void OnCommand(WORD code) override;
     bool TakesFocus() const override { return Handle() != nullptr && Model().Shown() && Model().Enabled(); }
+    bool OwnsPart(HWND window) const override { return window != nullptr && window == droppedList_; }
     COLORREF DefaultTextColor() const override { return ::GetSysColor(COLOR_WINDOWTEXT); }
     HBRUSH DefaultBackground(HDC) override { return nullptr; }
     void ItemInserted(std::int32_t index) override;
@@ -39,6 +40,8 @@ private:
     void WriteIndex();
 
     ui::ComboBox& combo_;
+    // The list the box drops, which asks for its colours as the box does.
+    HWND droppedList_ = nullptr;
 };
 
 }  // namespace qs::win

@@ -138,7 +138,6 @@ void ControlWindow::Changed(ui::Property what) {
                 // A hidden control takes no keys: the focus it held goes on
                 // to the form's first control that can take it.
                 if (heldFocus && !control_.Shown()) form_.FocusFirstControl();
-                form_.FieldsMoved();
             }
             break;
         case ui::Property::Enabled:
@@ -169,10 +168,14 @@ void ControlWindow::Changed(ui::Property what) {
         case ui::Property::Colors:
             // The window asks for its colours again as it repaints.
             if (window_ != nullptr) ::InvalidateRect(window_, nullptr, TRUE);
-            form_.FieldsMoved();
             break;
         default:
             break;
+    }
+    // A control without a window may still be part of the face (a strip).
+    if (what == ui::Property::Geometry || what == ui::Property::Visible || what == ui::Property::Colors ||
+        what == ui::Property::Picture) {
+        form_.FieldsMoved();
     }
     OnChanged(what);
 }

@@ -44,6 +44,9 @@ public:
     void ApplyDpi();
     // The form's size changed: the window takes its place again.
     void Relayout() { ApplyGeometry(); }
+    // True for a window of the control's own that is not its main window
+    // (a drop-down's list), which asks the form for its colours too.
+    virtual bool OwnsPart(HWND) const { return false; }
     // Whether the keyboard focus may rest on this control.
     virtual bool TakesFocus() const { return false; }
     // The answer to the WM_CTLCOLOR... message the window sent its form:

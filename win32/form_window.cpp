@@ -125,6 +125,8 @@ void FormWindow::TabIndexChanged(ControlWindow& control) {
 }
 
 void FormWindow::ChildCreated() {
+    // A new window may bring a field the face draws a line round.
+    faceDirty_ = true;
     if (created_) ApplyTabOrder();
 }
 
@@ -153,6 +155,15 @@ ControlWindow* FormWindow::ControlById(int id) const {
     return controls_[static_cast<std::size_t>(index)].get();
 }
 
+ControlWindow* FormWindow::ControlOfWindow(HWND child) const {
+    ControlWindow* control = ControlById(::GetDlgCtrlID(child));
+    if (control != nullptr && control->Handle() == child) return control;
+    for (const auto& candidate : controls_) {
+        if (candidate->OwnsPart(child)) return candidate.get();
+    }
+    return nullptr;
+}
+
 LONG FormWindow::ClientHeight() const {
     RECT client{};
     ::GetClientRect(Handle(), &client);
@@ -160,6 +171,7 @@ LONG FormWindow::ClientHeight() const {
 }
 
 void FormWindow::FieldsMoved() {
+    faceDirty_ = true;
     if (Handle() != nullptr) ::InvalidateRect(Handle(), nullptr, FALSE);
 }
 
@@ -356,7 +368,7 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_CTLCOLORBTN:
         case WM_CTLCOLORLISTBOX:
             // Each control answers for its own colours.
-            if (ControlWindow* control = ControlById(::GetDlgCtrlID(reinterpret_cast<HWND>(lParam)))) {
+            if (ControlWindow* control = ControlOfWindow(reinterpret_cast<HWND>(lParam))) {
                 if (const HBRUSH brush = control->ControlColor(reinterpret_cast<HDC>(wParam))) {
                     return reinterpret_cast<LRESULT>(brush);
                 }

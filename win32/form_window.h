@@ -6,6 +6,7 @@
 // form and turned into pixels at the window's DPI.
 #include <windows.h>
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
@@ -38,8 +39,12 @@ public:
     LONG LineHeight() const { return lineHeight_; }
     LONG ClientHeight() const;
     // Something the face shows moved, showed or changed (a strip, a text
-    // box's field): the face is composed again when next painted.
+    // box's field, the form's colour, picture, size or DPI): the face is
+    // designed and composed again when next asked for, and only then.
     void FieldsMoved();
+    // How many times a face has been designed, by every form window of the
+    // process: the cost that a repaint without changes must not pay.
+    static std::uint64_t FaceBuilds();
     // The face as it is now, in the form's client pixels.
     const PixelImage& Face();
     // A brush of the face for a child window that shows the face beneath
@@ -96,12 +101,16 @@ private:
     // Puts the frames beneath the controls they hold.
     void PutFramesBeneath();
     ControlWindow* ControlById(int id) const;
+    // The peer whose window, or a part of it (a drop-down's list), this is.
+    ControlWindow* ControlOfWindow(HWND child) const;
     void ReportMove();
 
     ui::Form& form_;
     WindowHandle window_;
     FontHandle font_;
     FormFace face_;
+    // True when something the face shows changed since it was last designed.
+    bool faceDirty_ = true;
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     LONG lineHeight_ = 0;
     std::vector<std::unique_ptr<ControlWindow>> controls_;

@@ -78,7 +78,20 @@ FaceDesign FormWindow::DesignFace() const {
     return design;
 }
 
+namespace {
+
+std::uint64_t faceBuilds = 0;
+
+}  // namespace
+
+std::uint64_t FormWindow::FaceBuilds() { return faceBuilds; }
+
 void FormWindow::UpdateFace() {
+    // Every child asks for the face as it paints: it is designed again only
+    // after something on it changed.
+    if (!faceDirty_) return;
+    faceDirty_ = false;
+    ++faceBuilds;
     if (face_.Update(DesignFace())) {
         ::RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
     }

@@ -41,7 +41,8 @@ void PictureBoxWindow::Create() {
 }
 
 void PictureBoxWindow::MakeWindow() {
-    CreateChild(PictureClass(), 0);
+    // A picture that answers keys is reached by Tab like any other control.
+    CreateChild(PictureClass(), picture_.KeyPress ? WS_TABSTOP : 0);
     if (Handle() == nullptr) return;
     HookWindow(Handle(), PictureProc, this);
 }
@@ -84,6 +85,8 @@ void PictureBoxWindow::Paint() {
     const BITMAPINFO info = TopDownInfo(width, height);
     ::SetDIBitsToDevice(paint.Get(), 0, 0, static_cast<DWORD>(width), static_cast<DWORD>(height), 0, 0, 0,
                         static_cast<UINT>(height), canvas.pixels.data(), &info, DIB_RGB_COLORS);
+    // A picture that holds the keyboard shows it as buttons do.
+    if (::GetFocus() == window) ::DrawFocusRect(paint.Get(), &client);
 }
 
 void PictureBoxWindow::Pressed(std::int16_t button, WPARAM keys, LPARAM at) {
@@ -144,10 +147,14 @@ LRESULT PictureBoxWindow::HandlePicture(UINT message, WPARAM wParam, LPARAM lPar
             // The key is the picture's alone: nothing below it has a use for it.
             if (picture_.Visible() && picture_.Enabled()) picture_.UserKeyPress(static_cast<wchar_t>(wParam));
             return 0;
+        case WM_SETFOCUS:
+        case WM_KILLFOCUS:
+            ::InvalidateRect(window, nullptr, FALSE);
+            return CallOwnProcedure(window, message, wParam, lParam);
         case WM_MOUSEMOVE: {
             const UINT dpi = Form().Dpi();
-            picture_.UserMouseMove(MouseButtonOf(wParam), ShiftStateOf(wParam), PixelsToTwips(GET_X_LPARAM(lParam), dpi),
-                                   PixelsToTwips(GET_Y_LPARAM(lParam), dpi));
+            picture_.UserMouseMove(MouseButtonOf(wParam), ShiftStateOf(wParam),
+                                   PixelsToTwips(GET_X_LPARAM(lParam), dpi), PixelsToTwips(GET_Y_LPARAM(lParam), dpi));
             // The tooltip listens further down the chain for the pointer.
             return CallOwnProcedure(window, message, wParam, lParam);
         }

@@ -1,9 +1,10 @@
 #pragma once
 // A picture button as a painted child: it shows the picture its control
 // names, drawn by the catalogue, over the form's face beneath it, and reports
-// presses as MouseDown, MouseUp and, when released over it, Click; its window
-// text is its name for screen readers and automation. A picture
-// box showing a strip has no window: the strip is part of the form's face.
+// presses as MouseDown, MouseUp and, when released over it, Click; keys typed
+// while it has the focus as KeyPress. Its window text is its name for screen
+// readers and automation. A picture box showing a strip has no window: the
+// strip is part of the form's face.
 #include <windows.h>
 
 #include "control_window.h"

@@ -4,7 +4,7 @@
 
 namespace qs {
 
-Application::Application(System& system) : sys(system), frmMain(*this), frmBrowse(*this), frmChoose(*this), frmMessage(*this) {}
+Application::Application(System& system) : sys(system), frmMain(*this), frmBrowse(*this), frmChoose(*this), frmQuick(*this), frmMessage(*this) {}
 
 Application::~Application() = default;
 
@@ -14,6 +14,7 @@ void Application::AttachBackend(ui::Backend* windows) {
     frmMain.SetBackend(windows);
     frmBrowse.SetBackend(windows);
     frmChoose.SetBackend(windows);
+    frmQuick.SetBackend(windows);
     frmMessage.SetBackend(windows);
 }
 

@@ -19,6 +19,7 @@
 #include "windows/frm_choose.h"
 #include "windows/frm_hid.h"
 #include "windows/frm_main.h"
+#include "windows/frm_quick.h"
 
 namespace qs {
 
@@ -84,6 +85,7 @@ struct Application {
     FrmMain frmMain;
     FrmBrowse frmBrowse;
     FrmChoose frmChoose;
+    FrmQuick frmQuick;
     FrmMessage frmMessage;
 
     // The list load whose target tests are still running, if any.

@@ -164,6 +164,8 @@ void LaunchListSettle(Application& app) {
             if (!records.failure) ReportBug(app, LoadRoutine(file.flashSide));
         }
     }
+    // The QuickLauncher loaded before these lists were whole.
+    if (app.frmQuick.IsLoaded()) app.frmQuick.ShowGroupsWithItems();
 }
 
 }  // namespace qs

@@ -53,6 +53,7 @@ void Main(Application& app) {
     app.frmMain.Load();
     app.frmBrowse.Load();
     app.frmChoose.Load();
+    app.frmQuick.Load();
     ThemeCreate(app, app.settings.ThemeIndex);
     place.StartingUp = false;
     app.frmMain.Show();

@@ -62,6 +62,7 @@ void ThemeCreate(Application& app, std::int16_t& t) {
         ThemeApplyOnMain(app, t);
         ThemeApplyOnBrowse(app, t);
         ThemeApplyOnChoose(app, t);
+        ThemeApplyOnQuick(app, t);
         if (app.place.StartingUp) app.HelpOpen = false;
     } catch (const std::exception&) {
         ReportBug(app, L"ThemeCreate");

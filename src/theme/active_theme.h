@@ -16,6 +16,7 @@ void ThemeCreate(Application& app, std::int16_t& t);
 void ThemeApplyOnMain(Application& app, std::int16_t t);
 void ThemeApplyOnBrowse(Application& app, std::int16_t t);
 void ThemeApplyOnChoose(Application& app, std::int16_t t);
+void ThemeApplyOnQuick(Application& app, std::int16_t t);
 // Called by the message system for each message, not by ThemeCreate.
 void ThemeApplyOnMessage(Application& app, std::int16_t t);
 

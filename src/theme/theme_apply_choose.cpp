@@ -3,6 +3,7 @@
 #include "common/application.h"
 #include "data/report_bug.h"
 #include "theme/active_theme.h"
+#include "theme/dark_theme.h"
 #include "theme/holders.h"
 #include "theme/theme_colors.h"
 
@@ -64,8 +65,8 @@ void ThemeApplyOnChoose(Application& app, std::int16_t t) {
         list.ImageConfirmClearList.SetPicture(s.ImageZeroSet[3]);
 
         // The question's second line is coloured twice; the second stands.
-        list.LabelConfirmClearListB.SetForeColor(t > 1 ? ColorLime : ColorRose);
-        list.LabelConfirmClearListB.SetForeColor(t > 1 ? ColorGrey : ColorRose);
+        list.LabelConfirmClearListB.SetForeColor(IsDarkTheme(t) ? ColorLime : ColorRose);
+        list.LabelConfirmClearListB.SetForeColor(IsDarkTheme(t) ? ColorGrey : ColorRose);
 
         // The Code And Command pane's heading and its bold questions.
         CodeCommandPane& code = f.Code;

@@ -107,6 +107,8 @@ private:
     void ShowTotals(std::int16_t group, std::int32_t count);
     // Asks the question below the panels, or answers it.
     void SwapQuestionFrames(bool asking);
+    // Hides the QuickLauncher's button of a group left with no items.
+    void HideQuickGroupButton(std::int16_t group);
 
     Application& app_;
     FrmChoose& form_;

@@ -6,7 +6,9 @@
 #include "common/failure.h"
 #include "data/launch_list.h"
 #include "windows/choose_list_pane.h"
+#include "theme/holders.h"
 #include "windows/frm_choose.h"
+#include "windows/frm_quick.h"
 
 namespace qs {
 
@@ -15,6 +17,13 @@ namespace {
 std::size_t At(std::int16_t group) { return static_cast<std::size_t>(group); }
 
 }  // namespace
+
+void LaunchListPane::HideQuickGroupButton(std::int16_t group) {
+    // The QuickLauncher has nothing to show of a group with no items.
+    ui::PictureBox& button = app_.frmQuick.ImageQuickChoice(group);
+    button.SetVisible(false);
+    button.SetPicture(OneOfTheme(ui::PictureSlot::ImageMStar, app_.settings.ThemeIndex));
+}
 
 void LaunchListPane::SwapQuestionFrames(bool asking) {
     FrameConfirmClearListA.SetVisible(!asking);
@@ -47,6 +56,7 @@ void LaunchListPane::ImageListClearClick(std::int16_t index) {
     LaunchListClearGroup(app_, index);
     form_.ComboListItemName(index).SetListIndex(-1);
     form_.ComboListItemPath(index).SetListIndex(-1);
+    HideQuickGroupButton(index);
 }
 
 void LaunchListPane::ImageListRemoveClick(std::int16_t index) {
@@ -88,6 +98,7 @@ void LaunchListPane::ImageListRemoveClick(std::int16_t index) {
     ImageListOpen(index).SetPicture(n != 0 ? theme.ImageZeroSet[0] : theme.ImageZeroBlank);
     ImageListRemove(index).SetVisible(n != 0);
     ImageListRemove(index).SetPicture(n != 0 ? theme.ImageZeroSet[0] : theme.ImageZeroBlank);
+    if (n == 0) HideQuickGroupButton(index);
 }
 
 void LaunchListPane::ImageConfirmClearListClick() {

@@ -136,8 +136,6 @@ private:
     // Left of a bar pushed in from the work area's right edge:
     // TwipsPerPixelX * (WorkAreaRight - MainWidthPixels).
     std::int32_t RightmostLeft() const;
-    // Keeps the bar inside the work area.
-    void ClampToWorkArea();
     void AddWebItem();
     // The round button's picture at rest, by LastWideWidth.
     ui::PictureRef ZeroRestPicture() const;

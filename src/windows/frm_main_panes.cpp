@@ -76,7 +76,35 @@ void FrmMain::PictureHelpClick() {
 
 void FrmMain::PictureShowQuickClick() {
     app_.QuickOpen = !app_.QuickOpen;
-    if (app_.QuickOpen && app_.OpenMenuIndex != -1) PictureMenuClick(app_.OpenMenuIndex);
+    FrmQuick& quick = app_.frmQuick;
+    if (app_.QuickOpen) {
+        std::int32_t top = quick.QuickTop;
+        std::int32_t left = quick.QuickLeft;
+        if (!quick.QuickPosKnown) {
+            // Below the bar when it fits above the work area's bottom, else
+            // above it; at the bar's Left unless that passes the right edge.
+            const double tx = app_.sys.TwipsPerPixelX();
+            const double ty = app_.sys.TwipsPerPixelY();
+            top = (Top() + Height() + quick.Height()) / ty < app_.place.WorkAreaBottom ? Top() + Height()
+                                                                                     : Top() - quick.Height();
+            left = (Left() + quick.Width()) / tx < app_.place.WorkAreaRight
+                       ? Left()
+                       : app_.sys.TwipsPerPixelX() * app_.place.WorkAreaRight - quick.Width();
+        }
+        if (app_.OpenMenuIndex != -1) PictureMenuClick(app_.OpenMenuIndex);
+        if (!QuickListShown && app_.settings.QuickDefaultItem != QuickNoGroup) {
+            quick.QuickPendingGroup = app_.settings.QuickDefaultItem;
+            quick.CommandQuickClick.SetValue(true);
+            QuickListShown = true;
+        }
+        quick.Move(left, top, quick.Width(), quick.Height());
+        quick.QuickTop = ToInt16(top);
+        // Shown beside the bar without taking the keyboard from the Command
+        // box.
+        quick.Show();
+    } else {
+        quick.Hide();
+    }
     PictureShowQuick.SetPicture(QuickRestPicture());
 }
 

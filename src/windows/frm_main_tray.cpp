@@ -4,6 +4,7 @@
 #include "common/failure.h"
 #include "startup/always_on_top.h"
 #include "windows/frm_main.h"
+#include "windows/work_area_clamp.h"
 
 namespace qs {
 
@@ -27,29 +28,7 @@ void FrmMain::FormMouseMove(std::int16_t button, std::int16_t, std::int32_t, std
         return;
     }
     if (button == ui::LeftButton) app_.sys.DragBySurface(*this);
-    ClampToWorkArea();
-}
-
-void FrmMain::ClampToWorkArea() {
-    const ProgramPlace& p = app_.place;
-    const std::int32_t tx = app_.sys.TwipsPerPixelX();
-    const std::int32_t ty = app_.sys.TwipsPerPixelY();
-    // The top limit is worked out with the horizontal ratio, as the bar
-    // always has.
-    const std::int32_t topLimit = p.WorkAreaTop == 0 ? 0 : ToInt16(p.WorkAreaTop * tx);
-    const std::int32_t leftLimit = p.WorkAreaLeft == 0 ? 0 : ToInt16(p.WorkAreaLeft * tx);
-    const std::int32_t bottomLimit = ToInt16(ty * p.WorkAreaBottom - MainHeight);
-    const std::int32_t rightLimit = ToInt16(tx * p.WorkAreaRight - app_.MainWidth);
-    if (Left() < leftLimit) {
-        SetLeft(leftLimit);
-    } else if (Left() > rightLimit) {
-        SetLeft(rightLimit);
-    }
-    if (Top() < topLimit) {
-        SetTop(topLimit);
-    } else if (Top() > bottomLimit) {
-        SetTop(bottomLimit);
-    }
+    KeepInWorkArea(app_, *this, app_.MainWidth, MainHeight);
 }
 
 void FrmMain::TimerOnTopTimer() {

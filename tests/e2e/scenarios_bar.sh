@@ -52,6 +52,17 @@ bar_expect_tip() {
   qs_poll 6 bar_tip_is "$tip" || e2e_fail "$name shows the tip \"$BAR_TIP\", expected \"$tip\""
 }
 
+# The QuickLauncher's button is disabled over an empty Launch List, and a
+# disabled button shows no tip: one web item is there from the start.
+bar_start_with_a_web_item() {
+  local shared
+  shared="$(e2e_drive_dir C)/Morvane/Morvane Apps/Quillstart"
+  e2e_seed_family C
+  e2e_write_lines "$shared/COMData.Morvane" 2 -1 0
+  e2e_seed_list "$shared/ListWeb.Morvane" 'news=http://news.example'
+  e2e_start_quillstart
+}
+
 bar_tooltips() {
   bar_expect_tip PictureZero 'Minimize Window On Screen' || return 1
   bar_expect_tip PictureMenu0 'Add Items To Launch List' || return 1
@@ -202,7 +213,7 @@ bar_near_bottom() {
   bar_read && [ "$BAR_TOP" -gt 1000 ]
 }
 
-e2e_scenario "each bar button's tooltip reads as the program's own" bar_tooltips
+e2e_scenario "each bar button's tooltip reads as the program's own" bar_tooltips bar_start_with_a_web_item
 e2e_scenario 'the pointer over a bar button changes its picture' bar_hover_changes_the_picture
 e2e_scenario 'the round button minimises the bar on screen and widens it again' bar_minimise_and_back
 e2e_scenario 'a web item added in the web pane launches by w- and lasts an exit by the exit button' bar_web_item_lasts_an_exit

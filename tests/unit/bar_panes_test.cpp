@@ -138,6 +138,8 @@ TEST(BarPanes, OpeningHelpClosesTheOpenPaneAndASecondClickClosesHelp) {
 
 TEST(BarPanes, ShowingTheQuickLauncherClosesThePaneAndSetsItsPicture) {
     BarApp t;
+    // The QuickLauncher's button is disabled over an empty Launch List.
+    t.AddItem(4, L"news", L"http://news.example/");
     t.ClickMenu(0);
     t.bar().PictureShowQuick.Press();
     EXPECT_TRUE(t.app.QuickOpen);

@@ -363,6 +363,27 @@ TEST_F(ChooseList, AfterAClearTheOpenRenameAndRemoveButtonsStayAndTheCountsShowT
     EXPECT_TRUE(pane.ImageShowList(0).Visible());
 }
 
+TEST_F(ChooseList, AClearAndTheLastRemoveHideTheQuickLaunchersGroupButtonWithTheBlankPicture) {
+    t.Add(0, L"notes", L"C:\\Docs\\notes.txt");
+    t.Add(2, L"editor", L"C:\\Apps\\editor.exe");
+    t.app.settings.ThemeIndex = 3;
+    t.app.frmQuick.Load();
+    ASSERT_TRUE(t.app.frmQuick.ImageQuickChoice(0).Visible());
+    ASSERT_TRUE(t.app.frmQuick.ImageQuickChoice(2).Visible());
+    const ui::PictureRef blank = OneOfTheme(ui::PictureSlot::ImageMStar, 3);
+    t.OpenPane();
+    pane.ImageListRemove(2).Press();
+    pane.ImageConfirmClearList.Press();
+    EXPECT_FALSE(t.app.frmQuick.ImageQuickChoice(2).Visible());
+    EXPECT_EQ(t.app.frmQuick.ImageQuickChoice(2).Picture(), blank);
+    EXPECT_TRUE(t.app.frmQuick.ImageQuickChoice(0).Visible());
+    t.ShowGroup(0);
+    pane.ImageListClear(0).Press();
+    pane.ImageConfirmClearList.Press();
+    EXPECT_FALSE(t.app.frmQuick.ImageQuickChoice(0).Visible());
+    EXPECT_EQ(t.app.frmQuick.ImageQuickChoice(0).Picture(), blank);
+}
+
 TEST_F(ChooseList, AClearWipesBothSidesOfTheGroup) {
     ChooseApp flash(L'E');
     flash.Add(1, L"docs", L"C:\\Docs");

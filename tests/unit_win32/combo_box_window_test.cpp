@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <string>
+#include <utility>
 
 #include "ui/combo_box.h"
 #include "ui/form.h"
@@ -133,6 +134,27 @@ TEST_F(ComboBoxWindowTest, TheDroppedListHasRoomForSeveralRows) {
     ::SendMessageW(combo, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&whole));
     EXPECT_GE((whole.bottom - whole.top) - (field.bottom - field.top), rowHeight * 10);
     ::SendMessageW(combo, CB_SHOWDROPDOWN, FALSE, 0);
+}
+
+TEST_F(ComboBoxWindowTest, TheBoxAndItsDroppedListTakeTheControlsColours) {
+    form.Names.AddItem(L"alpha");
+    form.Names.SetBackColor(qs::ui::Rgb(10, 20, 30));
+    form.Names.SetForeColor(qs::ui::Rgb(200, 210, 220));
+    LoadShown();
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof(info);
+    ASSERT_TRUE(::GetComboBoxInfo(combo, &info));
+    const HWND window = backend.WindowOf(form);
+    for (const auto& [message, part] : {std::pair{UINT{WM_CTLCOLOREDIT}, combo},
+                                        std::pair{UINT{WM_CTLCOLORLISTBOX}, info.hwndList}}) {
+        const HDC dc = ::GetDC(part);
+        const auto brush =
+            ::SendMessageW(window, message, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(part));
+        EXPECT_NE(brush, 0);
+        EXPECT_EQ(::GetBkColor(dc), RGB(10, 20, 30));
+        EXPECT_EQ(::GetTextColor(dc), RGB(200, 210, 220));
+        ::ReleaseDC(part, dc);
+    }
 }
 
 }  // namespace
