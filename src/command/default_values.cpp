@@ -12,6 +12,9 @@ void AtStartDefaultValue(Application& app) {
         t.ProgramVersion = std::to_wstring(4) + L"." + std::to_wstring(2019);
         app.OpenMenuIndex = -1;
         app.SavedMainTop = -1;
+        // The Preferences pane edits copies of the saved word and size.
+        app.settings.OptionWordEdit = app.settings.OptionWord;
+        app.settings.FontSizeEdit = app.settings.FontSizeSetting;
         t.ListGroupNames = {L"File", L"Folder", L"Program", L"Email", L"Web URL"};
         t.ATaskNames = {L"Help", L"ChangeUserName", L"CreateAppShortcut", L"DeleteAPPShortcut", L"StartScreensaver"};
         t.SpecialFolderNames = {L"Desktop",  L"Favorites", L"Fonts",     L"MyDocuments", L"Programs",

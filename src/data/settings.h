@@ -49,6 +49,20 @@ struct Settings {
     std::int16_t OptionAddUrlFontBold = 0;
     std::int16_t OptionMainFontBold = 0;
     std::int16_t OptionAlwaysOnTop = 0;
+    // Per option, its bit value when set, else 0: filled from the word at
+    // start and by the Preferences pane's check boxes.
+    std::array<std::int16_t, 6> OptionBits{};
+
+    // The Preferences pane's edit copies beside the saved values above: the
+    // word, the font size and the QuickLauncher's first group as chosen in
+    // this run, and the sums that tell whether they differ.
+    std::int16_t OptionWordEdit = 0;
+    std::int16_t FontSizeEdit = 0;
+    std::int16_t QuickDefaultEdit = 0;
+    std::int16_t OptionBaseSaved = 0;
+    std::int16_t OptionBaseEdit = 0;
+    std::int16_t OptionTotalSaved = 0;
+    std::int16_t OptionTotalEdit = 0;
 };
 
 }  // namespace qs

@@ -51,19 +51,44 @@ void StartShortcutDelete(Application& app) {
     }
 }
 
-void AutostartRegister(Application& app) {
+namespace {
+
+std::wstring ReadAutostart(Application& app) {
     std::wstring key = AutostartValueName;
     std::wstring none;
     std::int16_t action = RegistryRead;
-    const std::wstring current = RegistryValue(app, action, key, none);
+    return RegistryValue(app, action, key, none);
+}
+
+void DeleteAutostart(Application& app) {
+    std::wstring key = AutostartValueName;
+    std::wstring none;
+    std::int16_t action = RegistryDelete;
+    RegistryValue(app, action, key, none);
+}
+
+// The value as read is replaced by the program's file unless it is that
+// already.
+void RegisterOver(Application& app, const std::wstring& current) {
     if (current == app.ProgramFile) return;
-    if (!current.empty()) {
-        action = RegistryDelete;
-        RegistryValue(app, action, key, none);
-    }
-    action = RegistryWrite;
+    if (!current.empty()) DeleteAutostart(app);
+    std::wstring key = AutostartValueName;
     std::wstring value = app.ProgramFile;
+    std::int16_t action = RegistryWrite;
     RegistryValue(app, action, key, value);
+}
+
+}  // namespace
+
+void AutostartRegister(Application& app) { RegisterOver(app, ReadAutostart(app)); }
+
+void AutostartFollowOption(Application& app) {
+    const std::wstring current = ReadAutostart(app);
+    if (app.settings.OptionStartWithWindows == 1) {
+        RegisterOver(app, current);
+    } else if (app.settings.OptionStartWithWindows == 0 && !current.empty()) {
+        DeleteAutostart(app);
+    }
 }
 
 }  // namespace qs

@@ -11,5 +11,8 @@ void StartShortcutDelete(Application& app);
 
 // Brings the autostart value up to date with the program's present file.
 void AutostartRegister(Application& app);
+// Makes the autostart value follow the option "  Start With Windows": the
+// program's file when it is set, no value when it is not.
+void AutostartFollowOption(Application& app);
 
 }  // namespace qs

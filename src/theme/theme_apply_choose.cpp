@@ -67,6 +67,19 @@ void ThemeApplyOnChoose(Application& app, std::int16_t t) {
         // The question's second line is coloured twice; the second stands.
         list.LabelConfirmClearListB.SetForeColor(IsDarkTheme(t) ? ColorLime : ColorRose);
         list.LabelConfirmClearListB.SetForeColor(IsDarkTheme(t) ? ColorGrey : ColorRose);
+
+        // The Code And Command pane's heading and its bold questions.
+        CodeCommandPane& code = f.Code;
+        code.LabelCaption.SetForeColor(s.CurrentAccentColor);
+        for (const auto& label : code.LabelNoCodeB) label->SetForeColor(s.CurrentAccentColor);
+
+        // The Preferences pane's heading, and a swatch of every theme's
+        // colour beside its option, whichever theme is current.
+        PreferencesPane& prefs = f.Preferences;
+        prefs.LabelPref.SetForeColor(s.CurrentAccentColor);
+        for (std::int16_t i = 0; i < prefs.LabelColor.Count(); ++i) {
+            prefs.LabelColor(i).SetBackColor(s.ThemeFormColor.at(static_cast<std::size_t>(i)));
+        }
     } catch (const std::exception&) {
         ReportBug(app, L"ThemeApplyOnChoose");
     }

@@ -9,15 +9,7 @@
 namespace qs {
 
 void LaunchListPane::ImageListOpenClick(std::int16_t index) {
-    form_.Hide();
-    app_.OpenMenuIndex = -1;
-    if (app_.SavedMainTop != -1) {
-        app_.frmMain.SetTop(app_.SavedMainTop);
-        app_.SavedMainTop = -1;
-    }
-    ui::TextBox& box = app_.frmMain.TextMain;
-    if (app_.frmMain.Visible() && box.Visible() && box.Enabled()) box.SetFocus();
-    app_.frmMain.TimerOnTop.SetEnabled(app_.settings.OptionAlwaysOnTop != 0);
+    form_.ClosePane();
 
     ui::ComboBox& paths = form_.ComboListItemPath(index);
     const std::wstring path(paths.List(paths.ListIndex()));

@@ -14,6 +14,9 @@ void ActionSetChoose(Application& app, std::int16_t& pane) {
         if (pane != -1) {
             window.Load();
             if (pane == 2) window.List.Prepare();
+            // A fresh opening shows no note; a pending change still shows
+            // its call to Save.
+            if (pane == 4) window.Preferences.FrameOptionSave(0).SetVisible(false);
             window.PictureList.SetVisible(pane == 2);
             window.PictureCode.SetVisible(pane == 3);
             window.PictureTool.SetVisible(pane == 4);

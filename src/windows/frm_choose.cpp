@@ -18,6 +18,8 @@ FrmChoose::FrmChoose(Application& app)
       PictureHideCode(*this, L"PictureHideCode"),
       PictureHideTool(*this, L"PictureHideTool"),
       List(app, *this),
+      Code(app, *this),
+      Preferences(app, *this),
       app_(app) {
     for (ui::PictureBox* hide : {&PictureHideList, &PictureHideCode, &PictureHideTool}) {
         hide->Click = [this] { PictureHideClick(); };
@@ -33,6 +35,7 @@ FrmChoose::FrmChoose(Application& app)
     SetTakesFocusWhenShown(false);
     LoadEvent = [this] {
         ChooseSetUp();
+        Preferences.SetEditCopies();
         LaunchListLoad(app_);
     };
 }
@@ -50,6 +53,8 @@ void FrmChoose::ChooseSetUp() {
         pane.hide.SetToolTipText(L"Close");
     }
     List.SetUp();
+    Preferences.SetUp();
+    Code.SetUp();
     // The panes' own areas come last in the tab order: an area lies
     // beneath what it holds.
     std::int16_t next = 1000;
@@ -60,6 +65,18 @@ void FrmChoose::ChooseSetUp() {
 void FrmChoose::PictureHideClick() {
     app_.PendingClick = app_.OpenMenuIndex;
     app_.frmMain.CommandMainClick.SetValue(true);
+}
+
+void FrmChoose::ClosePane() {
+    Hide();
+    app_.OpenMenuIndex = -1;
+    if (app_.SavedMainTop != -1) {
+        app_.frmMain.SetTop(app_.SavedMainTop);
+        app_.SavedMainTop = -1;
+    }
+    ui::TextBox& box = app_.frmMain.TextMain;
+    if (app_.frmMain.Visible() && box.Visible() && box.Enabled()) box.SetFocus();
+    app_.frmMain.TimerOnTop.SetEnabled(app_.settings.OptionAlwaysOnTop != 0);
 }
 
 void FrmChoose::PictureButtonKeyPress(ui::PictureBox& button, std::int16_t& key) {

@@ -12,7 +12,9 @@
 #include "ui/form.h"
 #include "ui/frame.h"
 #include "ui/picture_box.h"
+#include "windows/choose_code_pane.h"
 #include "windows/choose_list_pane.h"
+#include "windows/choose_tool_pane.h"
 
 namespace qs {
 
@@ -42,6 +44,10 @@ public:
 
     // The Launch List pane, on PictureList.
     LaunchListPane List;
+    // The Code And Command pane, on PictureCode.
+    CodeCommandPane Code;
+    // The Preferences pane, on PictureTool.
+    PreferencesPane Preferences;
 
     // The close buttons, and Esc anywhere in a pane: the bar clicks the open
     // pane's button again, which closes it.
@@ -49,6 +55,10 @@ public:
     // Key handler shared by the pane's picture buttons: Enter or Space
     // clicks, Esc closes the pane.
     void PictureButtonKeyPress(ui::PictureBox& button, std::int16_t& key);
+    // Closes the window from within a pane that has done its work: the bar
+    // gets back its place, the Command box the focus and the on-top timer
+    // its option.
+    void ClosePane();
 
 private:
     // Lays out the frame; first step of the load.

@@ -9,6 +9,8 @@ void FrmQuick::FormLoad() {
     Move(0, 0, QuickWidthWide, QuickHeightFull);
     QuickPendingGroup = -1;
     QuickGroup = app_.settings.QuickDefaultItem;
+    // The Preferences pane's edit copy starts from the saved group as well.
+    app_.settings.QuickDefaultEdit = app_.settings.QuickDefaultItem;
     QuickGroupNames = {L"File", L"Directory (Folder)", L"Program", L"Email", L"Web URL"};
     ShowGroupsWithItems();
     for (std::int16_t i = 0; i < QuickPageSize; ++i) {

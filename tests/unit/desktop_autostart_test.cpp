@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "data/registry_value.h"
+#include "startup/always_on_top.h"
 #include "startup/desktop.h"
 #include "test_app.h"
 
@@ -69,6 +70,63 @@ TEST(DesktopTasks, ScreenSaverLeavesTheBoxEmpty) {
     qs::StartScreenSaver(t.app);
     EXPECT_EQ(t.Text(), L"");
     EXPECT_EQ(t.sys.screenSaverStarts, 1);
+}
+
+}  // namespace
+
+namespace {
+
+// The Preferences' Save goes through the same logic as the start: only the
+// option decides whether the value is wanted.
+struct AutostartByOption : Autostart {};
+
+TEST_F(AutostartByOption, OptionSetAndTheValueAlreadyEqualWritesNothing) {
+    app.settings.OptionStartWithWindows = 1;
+    sys.registry[qs::AutostartValueName] = L"C:\\Tools\\Quillstart.exe";
+    qs::AutostartFollowOption(app);
+    EXPECT_EQ(sys.writes, 0);
+    EXPECT_EQ(sys.deletes, 0);
+}
+
+TEST_F(AutostartByOption, OptionSetAndTheValuePointingElsewhereIsDeletedThenWritten) {
+    app.settings.OptionStartWithWindows = 1;
+    sys.registry[qs::AutostartValueName] = L"D:\\Old\\Quillstart.exe";
+    qs::AutostartFollowOption(app);
+    EXPECT_EQ(sys.deletes, 1);
+    EXPECT_EQ(sys.writes, 1);
+    EXPECT_EQ(sys.registry[qs::AutostartValueName], L"C:\\Tools\\Quillstart.exe");
+}
+
+TEST_F(AutostartByOption, OptionSetAndNoValueWritesWithoutADelete) {
+    app.settings.OptionStartWithWindows = 1;
+    qs::AutostartFollowOption(app);
+    EXPECT_EQ(sys.deletes, 0);
+    EXPECT_EQ(sys.writes, 1);
+    EXPECT_EQ(sys.registry[qs::AutostartValueName], L"C:\\Tools\\Quillstart.exe");
+}
+
+TEST_F(AutostartByOption, OptionClearedDeletesAValueWhereverItPoints) {
+    app.settings.OptionStartWithWindows = 0;
+    sys.registry[qs::AutostartValueName] = L"C:\\Tools\\Quillstart.exe";
+    qs::AutostartFollowOption(app);
+    EXPECT_EQ(sys.deletes, 1);
+    EXPECT_EQ(sys.writes, 0);
+    EXPECT_EQ(sys.registry.count(qs::AutostartValueName), 0u);
+}
+
+TEST_F(AutostartByOption, OptionClearedAndNoValueDeletesNothing) {
+    app.settings.OptionStartWithWindows = 0;
+    qs::AutostartFollowOption(app);
+    EXPECT_EQ(sys.deletes, 0);
+    EXPECT_EQ(sys.writes, 0);
+}
+
+TEST(DesktopTasks, AlwaysOnTopOffOnAnAlreadyPlainWindowChangesNothing) {
+    TestApp t;
+    ASSERT_FALSE(t.app.frmMain.TopMost());
+    qs::ActionAlwaysOnTopOff(t.app);
+    EXPECT_FALSE(t.app.frmMain.TopMost());
+    EXPECT_TRUE(t.dialogs.shown.empty());
 }
 
 }  // namespace
