@@ -59,6 +59,8 @@ source tests/e2e/scenarios_browse.sh
 source tests/e2e/scenarios_themes.sh
 # shellcheck source=scenarios_focus.sh
 source tests/e2e/scenarios_focus.sh
+# shellcheck source=scenarios_pointer.sh
+source tests/e2e/scenarios_pointer.sh
 
 finish() {
   qs_stop_wine
