@@ -236,6 +236,9 @@ void FormWindow::Changed(ui::Property what) {
         case ui::Property::TopMost:
             ApplyTopMost();
             break;
+        case ui::Property::MousePointer:
+            ::SetCursor(PointerCursor());
+            break;
         case ui::Property::Colors:
         case ui::Property::Picture:
             FieldsMoved();
@@ -290,6 +293,11 @@ int FormWindow::ShowCommand() const {
 }
 
 void FormWindow::ControlFocused(HWND child) { lastFocus_ = child; }
+
+HCURSOR FormWindow::PointerCursor() const {
+    // 12 is the "no drop" shape; every other value the arrow.
+    return ::LoadCursorW(nullptr, form_.MousePointer() == 12 ? IDC_NO : IDC_ARROW);
+}
 
 void FormWindow::ApplyTopMost() {
     ::SetWindowPos(Handle(), form_.TopMost() ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
@@ -360,6 +368,12 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_ERASEBKGND:
             return 1;
+        case WM_SETCURSOR:
+            // The form's own pointer shape holds over all its windows; a
+            // child asks its form first through the default handling.
+            if (form_.MousePointer() == 0) break;
+            ::SetCursor(PointerCursor());
+            return TRUE;
         case WM_SIZE:
             FieldsMoved();
             break;

@@ -96,6 +96,8 @@ private:
     bool OverStrip(POINT point) const;
     // SW_SHOW, SW_SHOWNOACTIVATE or SW_HIDE, as the form asks.
     int ShowCommand() const;
+    // The cursor of the form's pointer shape.
+    HCURSOR PointerCursor() const;
     // Puts the child windows in the tab order.
     void ApplyTabOrder();
     // Puts the frames beneath the controls they hold.

@@ -55,6 +55,12 @@ public:
 
     [[noreturn]] void EndProgram() override;
 
+    qs::WindowHandle WindowFromPoint(PixelPoint point) override;
+    std::uint32_t WindowProcessId(qs::WindowHandle window) override;
+    bool LeftButtonDown() override;
+    std::optional<std::vector<ProcessEntry>> ProcessSnapshot(std::uint32_t flags, std::uint32_t processId) override;
+    std::wstring ProcessExecutablePath(std::uint32_t processId) override;
+
     std::vector<DriveEntry> ListDrives() override;
     FolderListing ListFolder(const std::wstring& folder) override;
     // How the system finds the window of a form: the window backend's.

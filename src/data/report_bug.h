@@ -15,4 +15,12 @@ inline void ReportBug(Application& app, const wchar_t* routine) {
     MessageBug(app);
 }
 
+
+// The same with a whole tag, for the routines whose tags are not of the
+// "Quillstart:Bug:" form ("Bug-Quillstart-FindExecutableUp").
+inline void ReportBugTag(Application& app, const wchar_t* tag) {
+    app.MessageToShow = tag;
+    MessageBug(app);
+}
+
 }  // namespace qs

@@ -4,6 +4,7 @@
 // records every launch.
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -59,7 +60,50 @@ struct ShortcutDetails {
     std::wstring workingDirectory;
 };
 
-class System : public FileBrowsing {
+// A top-level or child window of any program, as the system names it; 0 is
+// no window.
+using WindowHandle = std::uintptr_t;
+
+// One process of a process-list walk, field for field as the system's
+// record holds it.
+struct ProcessEntry {
+    std::uint32_t dwSize = 0;
+    std::uint32_t cntUsage = 0;
+    std::uint32_t th32ProcessID = 0;
+    std::uint64_t th32DefaultHeapID = 0;
+    std::uint32_t th32ModuleID = 0;
+    std::uint32_t cntThreads = 0;
+    std::uint32_t th32ParentProcessID = 0;
+    std::int32_t pcPriClassBase = 0;
+    std::uint32_t dwFlags = 0;
+    std::wstring szExeFile;
+};
+
+// The windows under the pointer and the processes that own them, for adding
+// a running program by pointing at it. Every call answers "not available"
+// unless a system overrides it: no window, no process, no path.
+class PointerProcesses {
+public:
+    virtual ~PointerProcesses() = default;
+    // The window under a point of the screen, in pixels.
+    virtual WindowHandle WindowFromPoint(PixelPoint) { return 0; }
+    // The id of the process that owns a window; 0 for none.
+    virtual std::uint32_t WindowProcessId(WindowHandle) { return 0; }
+    // Whether the left mouse button is down now.
+    virtual bool LeftButtonDown() { return false; }
+    // A walk of the process list from a snapshot taken with the given flags
+    // and process id: none when the snapshot gave no handle, no entries when
+    // the walk's first step failed.
+    virtual std::optional<std::vector<ProcessEntry>> ProcessSnapshot(std::uint32_t /*flags*/,
+                                                                     std::uint32_t /*processId*/) {
+        return std::nullopt;
+    }
+    // The full path of the program file a running process was started from;
+    // "" when the system can't give one (a system process, one that ended).
+    virtual std::wstring ProcessExecutablePath(std::uint32_t /*processId*/) { return L""; }
+};
+
+class System : public FileBrowsing, public PointerProcesses {
 public:
     // Shell. ShellOpen opens a target by its association with the verb "open"
     // and shows the result normally; 33 or more is success. ShellRun starts a

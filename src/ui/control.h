@@ -29,6 +29,7 @@ enum class Property {
     Font,
     Colors,
     AccessibleName,
+    MousePointer,
 };
 
 enum class ControlKind {

@@ -53,6 +53,14 @@ public:
     const PictureRef& Picture() const { return picture_; }
     void SetPicture(PictureRef picture);
 
+    // The pointer's shape over the form's windows: 0 the system's own, 12
+    // "no drop".
+    std::int16_t MousePointer() const { return mousePointer_; }
+    void SetMousePointer(std::int16_t shape) {
+        mousePointer_ = shape;
+        Notify(Property::MousePointer);
+    }
+
     bool IsLoaded() const { return loaded_; }
     bool Visible() const { return visible_; }
     bool TopMost() const { return topMost_; }
@@ -121,6 +129,7 @@ private:
     bool topMost_ = false;
     bool windowWaitsForShow_ = false;
     bool takesFocusWhenShown_ = true;
+    std::int16_t mousePointer_ = 0;
     Backend* backend_ = nullptr;
     FormPeer* peer_ = nullptr;
 };

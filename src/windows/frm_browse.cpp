@@ -15,6 +15,7 @@ FrmBrowse::FrmBrowse(Application& app)
       FrameBrowseOption(*this, L"FrameBrowseOption", L"Select Item To Add :"),
       OptionBrowse(*this, L"OptionBrowse", 6),
       DriveWork(*this, L"DriveWork", app.sys),
+      TimerFindPath(*this, L"TimerFindPath", 100),
       FrameFindPath(*this, L"FrameFindPath", L"Add Running Program :"),
       PictureFindPath(*this, L"PictureFindPath"),
       LabelFindPath(*this, L"LabelFindPath", L"Find Program Path"),
@@ -89,6 +90,10 @@ void FrmBrowse::Layout() {
     FrameFindPath.Move(240, 7410, 4800, 600);
     FrameFindPath.Place(PictureFindPath, 180, 195, 330, 330);
     FrameFindPath.Place(LabelFindPath, 600, 240, 3000, 255);
+    PictureFindPath.SetToolTipText(
+        L"Left click on \"Find Program Path\" green button, keep the mouse button down, place cursor on the open "
+        L"Window of the Program that you want to add and release mouse button. Program file path should appear in "
+        L"\"Program File Path\" Text box.");
 }
 
 void FrmBrowse::WireEvents() {
@@ -110,6 +115,13 @@ void FrmBrowse::WireEvents() {
         PictureSelectOK, [this] { return app_.theme.ImageZeroOver; },
         [this] { return PictureSelectOK.Enabled() ? app_.theme.ImageZeroSet[2] : app_.theme.ImageZeroBlank; });
     PictureAddCancel.Click = [this] { PictureAddCancelClick(); };
+    PictureFindPath.MouseDown = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
+        PictureFindPathMouseDown();
+    };
+    PictureFindPath.MouseUp = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
+        PictureFindPathMouseUp();
+    };
+    TimerFindPath.Tick = [this] { TimerFindPathTick(); };
     PictureAddCancel.MouseDown = [this](std::int16_t, std::int16_t, std::int32_t, std::int32_t) {
         PictureAddCancelMouse();
     };

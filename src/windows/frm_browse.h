@@ -3,9 +3,12 @@
 // bar's PictureMenu(0) and PictureMenu(1). Its handlers live in
 // browse_set.cpp (opening, the options, the two text boxes, close),
 // browse_folders.cpp (the drive, folder and file boxes, the load) and
-// browse_add.cpp (the add and Open clicks and the item tests).
+// browse_add.cpp (the add and Open clicks and the item tests) and
+// browse_find_path.cpp (a running program's path found by pointing at one
+// of its windows).
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "platform/system.h"
 #include "ui/control_array.h"
@@ -18,6 +21,7 @@
 #include "ui/option_button.h"
 #include "ui/picture_box.h"
 #include "ui/text_box.h"
+#include "ui/timer.h"
 
 namespace qs {
 
@@ -39,6 +43,7 @@ public:
     ui::Frame FrameBrowseOption;
     ui::ControlArray<ui::OptionButton> OptionBrowse;
     ui::DriveListBox DriveWork;
+    ui::Timer TimerFindPath;
     ui::Frame FrameFindPath;
     ui::PictureBox PictureFindPath;
     ui::Label LabelFindPath;
@@ -91,6 +96,14 @@ public:
     void PictureAddCancelMouse();
     void LabelAddCancelMouseMove();
     void FrameHideWindowMouseMove();
+    void PictureFindPathMouseDown();
+    void TimerFindPathTick();
+    void PictureFindPathMouseUp();
+
+    // The drag from PictureFindPath, read by the tests: whether one runs and
+    // the window the pointer was last seen over.
+    bool IsFindingPath() const { return FindPathActive; }
+    WindowHandle LastPointedWindow() const { return PointedWindow; }
 
     // Shows the enabled or the disabled look of an OK button.
     void SetOKButton(ui::PictureBox& button, bool enabled);
@@ -104,6 +117,22 @@ private:
     Application& app_;
     // True from the load until the first bounce off the system folder.
     bool SystemMessagePending = false;
+
+    // The drag from PictureFindPath onto a window of a running program.
+    // The pointer's place at the last tick, in screen pixels, and narrowed.
+    PixelPoint PointerPosition;
+    std::int16_t PointerX = 0;
+    std::int16_t PointerY = 0;
+    // The window under the pointer at the last tick; 0 at a drag's start.
+    WindowHandle PointedWindow = 0;
+    // The left button's state at the last tick; nothing reads it.
+    bool LeftButtonHeld = false;
+    // True from the button's press to its release.
+    bool FindPathActive = false;
+    // The processes running at the press, by position from 1.
+    std::int32_t ProcessCount = 0;
+    std::vector<std::wstring> ProcessNames;
+    std::vector<std::uint32_t> ProcessIds;
 };
 
 // Fills and shows the pane in mode 0 (Add Item) or 1 (Open), or hides it

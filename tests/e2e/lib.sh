@@ -101,7 +101,7 @@ e2e_bar_gone() {
 # log, so that each scenario starts clean while the wineserver stays warm.
 # Should that fail, all of Wine is restarted.
 e2e_reset() {
-  if ! wine "$E2E_TOOLS/endtasks.exe" image:Quillstart.exe image:recorder.exe image:winedbg.exe \
+  if ! wine "$E2E_TOOLS/endtasks.exe" image:Quillstart.exe image:recorder.exe image:winedbg.exe image:notepad.exe \
     class:ExplorerWClass >"$E2E_WORK/endtasks.out" 2>&1 || ! qs_poll 10 e2e_bar_gone; then
     qs_stop_wine
     qs_start_wineserver

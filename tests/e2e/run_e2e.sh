@@ -63,6 +63,8 @@ source tests/e2e/scenarios_focus.sh
 source tests/e2e/scenarios_choose.sh
 # shellcheck source=scenarios_quick.sh
 source tests/e2e/scenarios_quick.sh
+# shellcheck source=scenarios_pointer.sh
+source tests/e2e/scenarios_pointer.sh
 
 finish() {
   qs_stop_wine

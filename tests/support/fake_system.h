@@ -6,9 +6,11 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "common/failure.h"
 #include "platform/system.h"
 
 namespace qs::test {
@@ -130,6 +132,37 @@ public:
     void DragBySurface(const ui::Form& form) override {
         drags.push_back(&form);
         if (onDrag) onDrag(form);
+    }
+
+    // The windows under the pointer: the window at each place (none
+    // elsewhere), the process owning each window, each process's program
+    // path, and the process list a walk gives (none: no snapshot).
+    std::map<std::pair<std::int32_t, std::int32_t>, WindowHandle> windowsAt;
+    std::map<WindowHandle, std::uint32_t> windowOwners;
+    std::map<std::uint32_t, std::wstring> processPaths;
+    std::optional<std::vector<ProcessEntry>> processList = std::vector<ProcessEntry>{};
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> snapshotRequests;
+    bool leftButton = false;
+    // The process services fail, as they may for a process that ended.
+    bool processServicesFail = false;
+    WindowHandle WindowFromPoint(PixelPoint point) override {
+        const auto found = windowsAt.find({point.x, point.y});
+        return found == windowsAt.end() ? 0 : found->second;
+    }
+    std::uint32_t WindowProcessId(WindowHandle window) override {
+        if (processServicesFail) throw SystemCallFailed("GetWindowThreadProcessId");
+        const auto found = windowOwners.find(window);
+        return found == windowOwners.end() ? 0 : found->second;
+    }
+    bool LeftButtonDown() override { return leftButton; }
+    std::optional<std::vector<ProcessEntry>> ProcessSnapshot(std::uint32_t flags, std::uint32_t processId) override {
+        snapshotRequests.emplace_back(flags, processId);
+        if (processServicesFail) throw SystemCallFailed("CreateToolhelp32Snapshot");
+        return processList;
+    }
+    std::wstring ProcessExecutablePath(std::uint32_t processId) override {
+        const auto found = processPaths.find(processId);
+        return found == processPaths.end() ? L"" : found->second;
     }
 
     std::map<wchar_t, DriveType> driveTypes;
