@@ -14,8 +14,10 @@ pointer_notepad_shown() {
 pointer_path_is_notepad() {
   browse_children QuillstartDialog || return 1
   local path
-  path=$(awk -F'\t' '$1 == "child=Edit" && $2 == 1 { print $4 }' <<<"$E2E_CHILDREN" | head -1)
-  [[ "${path,,}" == 'c:\windows\'*'\notepad.exe' ]]
+  while IFS= read -r path; do
+    [[ "${path,,}" == 'c:\windows\'*'\notepad.exe' ]] && return 0
+  done < <(awk -F'\t' '$1 == "child=Edit" && $2 == 1 { print $4 }' <<<"$E2E_CHILDREN")
+  return 1
 }
 
 pointer_finds_a_running_programs_path() {
