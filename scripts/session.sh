@@ -52,8 +52,12 @@ qs_start_display() {
       openbox >"$logs/openbox.log" 2>&1 &
       QS_WM_PID=$!
       qs_poll 10 qs_wm_answers && return 0
-      echo "session: openbox did not start on $DISPLAY" >&2
-      return 1
+      # Another session's server or window manager won the display after
+      # all: leave it to them and try the next one.
+      echo "session: openbox did not start on $DISPLAY, trying the next display" >&2
+      kill "$QS_WM_PID" 2>/dev/null || true
+      wait "$QS_WM_PID" 2>/dev/null || true
+      QS_WM_PID=""
     fi
     # Another session took the display first: try the next one.
     kill "$QS_XVFB_PID" 2>/dev/null || true

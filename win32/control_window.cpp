@@ -84,13 +84,25 @@ COLORREF ControlWindow::DefaultTextColor() const {
     return form_.Model().Style() == ui::FormStyle::Dialog ? ColorRefOf(kDialogTextColor) : ::GetSysColor(COLOR_BTNTEXT);
 }
 
-HBRUSH ControlWindow::DefaultBackground(HDC dc) { return form_.FaceBrushFor(window_, dc); }
+HBRUSH ControlWindow::DefaultBackground(HDC dc) {
+    // A frame paints its inside in its own colour: what lies in it without
+    // a colour of its own shows that colour, not the form's face.
+    for (const ui::Control* container = control_.Container(); container != nullptr;
+         container = container->Container()) {
+        if (container->BackColor() != ui::DefaultColor) return SolidBackground(dc, container->BackColor());
+    }
+    return form_.FaceBrushFor(window_, dc);
+}
 
 HBRUSH ControlWindow::ControlColor(HDC dc) {
     const ui::Color fore = control_.ForeColor();
     ::SetTextColor(dc, fore == ui::DefaultColor ? DefaultTextColor() : ColorRefOf(fore));
     const ui::Color back = control_.BackColor();
     if (back == ui::DefaultColor) return DefaultBackground(dc);
+    return SolidBackground(dc, back);
+}
+
+HBRUSH ControlWindow::SolidBackground(HDC dc, ui::Color back) {
     const COLORREF color = ColorRefOf(back);
     if (!brush_ || brushColor_ != color) {
         brush_.Reset(::CreateSolidBrush(color));

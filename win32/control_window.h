@@ -70,6 +70,8 @@ protected:
     // default it shows the form's face beneath it in the form's text colour.
     virtual COLORREF DefaultTextColor() const;
     virtual HBRUSH DefaultBackground(HDC dc);
+    // A brush of one colour, set as the text's background too.
+    HBRUSH SolidBackground(HDC dc, ui::Color back);
     // True for a window that shows no text of its own (a picture, a list):
     // its window text is the name screen readers give it.
     virtual bool TextIsName() const { return false; }

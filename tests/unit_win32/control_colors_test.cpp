@@ -11,6 +11,7 @@
 #include "handles.h"
 #include "picture_cache.h"
 #include "ui/form.h"
+#include "ui/frame.h"
 #include "ui/label.h"
 #include "ui/picture_box.h"
 #include "ui/text_box.h"
@@ -201,6 +202,67 @@ TEST_F(ControlColorsTest, APictureBoxThatStopsShowingAStripGetsAWindow) {
     form.Strip.SetPicture({PictureSlot::ImageMU, 2});
     const HWND first = ::FindWindowExW(window, nullptr, qs::win::kPictureClass, nullptr);
     EXPECT_NE(::FindWindowExW(window, first, qs::win::kPictureClass, nullptr), nullptr);
+}
+
+}  // namespace
+
+namespace {
+
+class FramedForm : public qs::ui::Form {
+public:
+    FramedForm()
+        : Form(L"frmFramedTest", qs::ui::FormStyle::Dialog),
+          Group(*this, L"FrameGroupMenu", L"Select"),
+          Inside(*this, L"LabelListTotalA", L"3"),
+          Outside(*this, L"LabelListCap", L"Launch List:") {
+        SetCaption(L"QuillstartFramedTest");
+        Move(1500, 1500, 4000, 3000);
+        Group.Move(120, 600, 3600, 1800);
+        Group.Place(Inside, 240, 300, 900, 255);
+        Outside.Move(120, 120, 1800, 255);
+    }
+    qs::ui::Frame Group;
+    qs::ui::Label Inside;
+    qs::ui::Label Outside;
+};
+
+COLORREF ColorOfBrush(HBRUSH brush) {
+    LOGBRUSH info{};
+    ::GetObjectW(brush, sizeof(info), &info);
+    return info.lbStyle == BS_SOLID ? info.lbColor : CLR_INVALID;
+}
+
+TEST(FramedControlColors, ALabelInAColouredFrameShowsTheFramesColourAndOneOutsideTheFace) {
+    qs::test::Pump();
+    qs::win::Win32Backend backend{::GetModuleHandleW(nullptr)};
+    FramedForm form;
+    form.SetBackend(&backend);
+    form.Load();
+    form.Show();
+    form.Group.SetBackColor(Rgb(200, 150, 100));
+    const HWND window = backend.WindowOf(form);
+    ASSERT_NE(window, nullptr);
+    HWND inside = nullptr;
+    HWND outside = nullptr;
+    for (HWND child = ::FindWindowExW(window, nullptr, L"STATIC", nullptr); child != nullptr;
+         child = ::FindWindowExW(window, child, L"STATIC", nullptr)) {
+        if (qs::test::TextOf(child) == L"3") inside = child;
+        if (qs::test::TextOf(child) == L"Launch List:") outside = child;
+    }
+    ASSERT_NE(inside, nullptr);
+    ASSERT_NE(outside, nullptr);
+    qs::win::WindowDc dc(inside);
+    const auto ask = [&](HWND child) {
+        return reinterpret_cast<HBRUSH>(
+            ::SendMessageW(window, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.Get()), reinterpret_cast<LPARAM>(child)));
+    };
+    EXPECT_EQ(ColorOfBrush(ask(inside)), RGB(200, 150, 100));
+    EXPECT_NE(ColorOfBrush(ask(outside)), RGB(200, 150, 100));
+    // A colour of its own still wins over the frame's.
+    form.Inside.SetBackColor(Rgb(10, 20, 30));
+    EXPECT_EQ(ColorOfBrush(ask(inside)), RGB(10, 20, 30));
+    form.Unload();
+    qs::test::Pump();
 }
 
 }  // namespace
