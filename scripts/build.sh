@@ -3,9 +3,10 @@
 #   build/native  the portable library, unit tests and benchmarks for Linux
 #   build/win     the static Quillstart.exe (mingw-w64, Release), the Windows
 #                 build of the unit tests and the end-to-end tools
-#   build/fuzz    the libFuzzer targets (clang, AddressSanitizer), made only
-#                 when asked for by name: the fuzz level of the test command
-#                 and tests/fuzz/run_fuzz.sh build it themselves
+#   build/fuzz    the libFuzzer targets (clang, AddressSanitizer and
+#                 UndefinedBehaviorSanitizer), made only when asked for by
+#                 name: the fuzz level of the test command and
+#                 tests/fuzz/run_fuzz.sh build it themselves
 # Usage: scripts/build.sh [native|win|fuzz|all]   (default: all = native + win)
 # QS_NATIVE_BUILD, QS_WIN_BUILD and QS_FUZZ_BUILD name other build folders.
 set -euo pipefail
