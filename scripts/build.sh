@@ -31,7 +31,7 @@ build_win() {
 build_fuzz() {
   [ -f "$fuzz_dir/build.ninja" ] || cmake -S . -B "$fuzz_dir" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
     -DCMAKE_CXX_COMPILER=clang++ -DQS_BUILD_FUZZ=ON -DQS_BUILD_TESTS=OFF -DQS_BUILD_BENCH=OFF >/dev/null
-  ninja -C "$fuzz_dir" -j2 fuzz_record_reader fuzz_list_reader fuzz_family_readers
+  ninja -C "$fuzz_dir" -j2 fuzz_record_reader fuzz_list_reader fuzz_family_readers fuzz_command
 }
 
 case "$which_builds" in

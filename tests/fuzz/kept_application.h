@@ -34,6 +34,7 @@ struct KeptApplication {
     void EndInput() {
         Require(!app.frmMessage.IsLoaded());
         sys.files.clear();
+        sys.launches.clear();
         dialogs.shown.clear();
         app.MessageToShow.clear();
         app.message = MessageState{};

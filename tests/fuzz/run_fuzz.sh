@@ -15,7 +15,7 @@ seconds=${1:-10}
 cd "$(dirname "$0")/../.." || exit 1
 build=${QS_FUZZ_BUILD:-build/fuzz}
 export QS_FUZZ_BUILD=$build
-targets=(fuzz_record_reader fuzz_list_reader fuzz_family_readers)
+targets=(fuzz_record_reader fuzz_list_reader fuzz_family_readers fuzz_command)
 rss_limit_mb=1024
 # Room for loading the corpus and writing the final statistics on top of the
 # fuzzing time itself.
