@@ -41,9 +41,19 @@ finish() {
 }
 trap finish EXIT
 
+# Stops the soak, keeping the screen, the launch log, what the box holds and
+# where the keyboard focus is in build/soak-artifacts/.
 fail() {
   echo "soak: FAILED after $1 Commands: $2"
   e2e_screenshot failed
+  cp "$(e2e_launch_log)" "$E2E_ARTIFACTS/launches.log" 2>/dev/null
+  e2e_probe && echo "soak: the box holds \"$E2E_TEXT\""
+  e2e_focus && echo "soak: focus $(e2e_focus_summary)"
+  local i missing=""
+  for ((i = 1; i <= $1; i += 4)); do
+    e2e_log_has "http://www.soak$i.example" || missing+=" $i"
+  done
+  [ -n "$missing" ] && echo "soak: web Commands that did not reach the recorder:$missing"
   exit 1
 }
 
