@@ -49,11 +49,15 @@ BOOL CALLBACK FindTop(HWND top, LPARAM param) {
     return FALSE;
 }
 
+// A picture button carries the caption of the label beside it as its name:
+// the button is taken before a label of the same text.
 BOOL CALLBACK FindChild(HWND child, LPARAM param) {
     auto* search = reinterpret_cast<Search*>(param);
     if (!IsWindowVisible(child) || TextOf(child) != search->text) return TRUE;
-    search->found = child;
-    return FALSE;
+    wchar_t cls[64] = {};
+    GetClassNameW(child, cls, 64);
+    if (search->found == nullptr || lstrcmpW(cls, L"QuillstartPicture") == 0) search->found = child;
+    return lstrcmpW(cls, L"QuillstartPicture") != 0;
 }
 
 HWND ShownTop(const std::wstring& title) {

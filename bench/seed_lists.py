@@ -7,6 +7,8 @@ Usage: seed_lists.py DRIVE_C_FOLDER full|spread|ten
   full    each group's targets in one folder (C:\\Bench\\Files\\f00000.txt ...)
   spread  the targets spread over 1,024 folders of 32 each
   ten     ten items a group, their targets in one folder, as a yardstick
+  program 32,767 programs and no other item: the most the Launch List pane
+          opens on, since it adds up the five counts in 16 bits
 """
 import os
 import sys
@@ -33,15 +35,17 @@ def target(mode, group, i):
 
 def main():
     drive_c, mode = sys.argv[1], sys.argv[2]
-    if mode not in ("full", "spread", "ten"):
-        sys.exit("seed_lists: mode is full, spread or ten")
-    items = 10 if mode == "ten" else ITEMS
+    if mode not in ("full", "spread", "ten", "program"):
+        sys.exit("seed_lists: mode is full, spread, ten or program")
+    counts = [10] * 5 if mode == "ten" else [0, 0, ITEMS, 0, 0] if mode == "program" else [ITEMS] * 5
     data = os.path.join(drive_c, DATA)
     os.makedirs(data, exist_ok=True)
     files = ["ListFile.Morvane", "ListFold.Morvane", "ListProg.Morvane", "ListMail.Morvane", "ListWeb.Morvane"]
     for group, file_name in enumerate(files):
+        if counts[group] == 0:
+            continue
         records = []
-        for i in range(items):
+        for i in range(counts[group]):
             if group < 3:
                 parts = target(mode, group, i)
                 host = os.path.join(drive_c, *parts)
@@ -59,9 +63,9 @@ def main():
             # Names sort as the program writes them: ascending, case ignored.
             records.append('"Item%05d","%s"' % (i, path))
         write_lines(os.path.join(data, file_name), records)
-    last = str(items - 1)
-    write_lines(os.path.join(data, "Set.Morvane"), ["10", "57", "0", "0", '""', last, last, last, "8", "2", "0"])
-    write_lines(os.path.join(data, "COMData.Morvane"), ["2", last, last])
+    last = [str(count - 1) for count in counts]
+    write_lines(os.path.join(data, "Set.Morvane"), ["10", "57", "0", "0", '""'] + last[0:3] + ["8", "2", "0"])
+    write_lines(os.path.join(data, "COMData.Morvane"), ["2", last[3], last[4]])
 
 
 if __name__ == "__main__":

@@ -1,8 +1,11 @@
 # Start-up benchmark: how long Quillstart.exe takes from process start to a
 # visible bar, and how much memory it holds then, against the smallest window
-# program built by the same toolchain (bench/empty_window.cpp). Both run under
-# Wine on a private Xvfb display with a warm, persistent wineserver, in a
-# fresh prefix, after one untimed warm-up start each. Every start is an
+# programs built by the same toolchain (bench/empty_window.cpp): a decorated
+# overlapped window, which the window manager frames before it shows, and a
+# borderless topmost popup of the bar's size made as the bar is, the fair
+# yardstick. All run under Wine on a private Xvfb display with a warm,
+# persistent wineserver, in a fresh prefix, after one untimed warm-up start
+# each. Every start is an
 # ordinary one (Quillstart is already known on this computer), with the
 # Launch List in one of these states:
 #   empty   no list files
@@ -18,9 +21,9 @@
 # takes its first keystroke, which waits for the lists to be whole. The
 # working set (GetProcessMemoryInfo) is read at the end of the measure, then
 # the process is ended, so nothing is ever saved. For each list state the
-# empty window and Quillstart start in turn, run by run; prints every run,
-# the medians, their ratio to the empty window's median of the same runs and
-# the working sets. A figure, never a pass/fail test.
+# empty window, the empty popup and Quillstart start in turn, run by run;
+# prints every run, the medians, their ratios to each yardstick's median of
+# the same runs and the working sets. A figure, never a pass/fail test.
 # Usage: bash bench/startup.sh   (QS_BENCH_RUNS=9 runs each by default;
 #        QS_BENCH_LISTS="empty full spread" picks the list states, in order)
 set -euo pipefail
@@ -50,7 +53,7 @@ qs_new_prefix "$work/prefix" "$work/wineboot.log"
 c=$WINEPREFIX/drive_c
 mkdir -p "$c/Quillstart" "$c/bench"
 cp "$win_build/win32/Quillstart.exe" "$c/Quillstart/Quillstart.exe"
-cp "$win_build/bench/empty_window.exe" "$win_build/bench/startwait.exe" "$c/bench/"
+cp "$win_build/bench/empty_window.exe" "$win_build/bench/empty_popup.exe" "$win_build/bench/startwait.exe" "$c/bench/"
 # Quillstart is already known on this computer, so every run is an ordinary
 # start to the bar and not the first start's name prompt.
 # shellcheck source=../tests/e2e/data.sh
@@ -81,9 +84,10 @@ median() {
 echo "startup: display $DISPLAY, warm-up"
 measure 'C:\Quillstart\Quillstart.exe' Quillstart "$work/warm.txt"
 measure 'C:\bench\empty_window.exe' 'Empty Window' "$work/warm.txt"
+measure 'C:\bench\empty_popup.exe' 'Empty Popup' "$work/warm.txt"
 
-# Each list state is measured with runs of the empty window and of
-# Quillstart taken in turn, so that a machine growing slower or faster
+# Each list state is measured with runs of the yardsticks and of Quillstart
+# taken in turn, so that a machine growing slower or faster
 # during the benchmark weighs on both alike.
 results=()
 for state in $list_states; do
@@ -97,23 +101,30 @@ for state in $list_states; do
   esac
   measure 'C:\Quillstart\Quillstart.exe' Quillstart "$work/warm.txt" ready
   e_file=$work/empty-$state.txt
+  p_file=$work/popup-$state.txt
   q_file=$work/quillstart-$state.txt
   echo "startup: $state lists, $runs runs of each in turn (visible ms, ready ms, working set MB)"
   for i in $(seq "$runs"); do
     measure 'C:\bench\empty_window.exe' 'Empty Window' "$e_file"
+    measure 'C:\bench\empty_popup.exe' 'Empty Popup' "$p_file"
     measure 'C:\Quillstart\Quillstart.exe' Quillstart "$q_file" ready
-    printf '  run %d: empty window %s | Quillstart %s\n' "$i" "$(tail -1 "$e_file")" "$(tail -1 "$q_file")"
+    printf '  run %d: empty window %s | empty popup %s | Quillstart %s\n' "$i" "$(tail -1 "$e_file")" \
+      "$(tail -1 "$p_file")" "$(tail -1 "$q_file")"
   done
-  results+=("$state $(median "$e_file" 1) $(median "$e_file" 3) $(median "$q_file" 1) $(median "$q_file" 2) $(median "$q_file" 3)")
+  results+=("$state $(median "$e_file" 1) $(median "$e_file" 3) $(median "$p_file" 1) $(median "$q_file" 1) \
+$(median "$q_file" 2) $(median "$q_file" 3)")
 done
 
 echo
 echo "medians; visible: the bar on screen; ready: the bar has taken its first keystroke;"
-echo "each ratio is to the empty window's visible time in the same runs"
-printf '%-14s %12s %10s %8s %10s %8s %14s %12s\n' "lists" "empty window" "visible" "ratio" "ready" "ratio" \
-  "working set MB" "above empty"
+echo "each ratio is to a yardstick's visible time in the same runs: the decorated empty"
+echo "window (window) and the borderless topmost popup of the bar's size (popup)"
+printf '%-8s %8s %8s %8s %7s %7s %8s %7s %7s %10s %8s\n' "lists" "window" "popup" "visible" "/window" "/popup" \
+  "ready" "/window" "/popup" "working MB" "above"
 for result in "${results[@]}"; do
-  read -r state e e_ws q r q_ws <<<"$result"
-  awk -v s="$state" -v e="$e" -v q="$q" -v r="$r" -v w="$q_ws" -v ew="$e_ws" \
-    'BEGIN { printf "%-14s %12s %10s %8.2f %10s %8.2f %14s %12.1f\n", s, e, q, q / e, r, r / e, w, w - ew }'
+  read -r state e e_ws p q r q_ws <<<"$result"
+  awk -v s="$state" -v e="$e" -v p="$p" -v q="$q" -v r="$r" -v w="$q_ws" -v ew="$e_ws" \
+    'BEGIN { printf "%-8s %8s %8s %8s %7.2f %7.2f %8s %7.2f %7.2f %10s %8.1f\n",
+             s, e, p, q, q / e, q / p, r, r / e, r / p, w, w - ew }'
 done
+echo "(working MB: Quillstart's working set when ready; above: over the empty window's)"

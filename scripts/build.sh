@@ -3,9 +3,10 @@
 #   build/native  the portable library, unit tests and benchmarks for Linux
 #   build/win     the static Quillstart.exe (mingw-w64, Release), the Windows
 #                 build of the unit tests and the end-to-end tools
-#   build/fuzz    the libFuzzer targets (clang, AddressSanitizer), made only
-#                 when asked for by name: the fuzz level of the test command
-#                 and tests/fuzz/run_fuzz.sh build it themselves
+#   build/fuzz    the libFuzzer targets (clang, AddressSanitizer and
+#                 UndefinedBehaviorSanitizer), made only when asked for by
+#                 name: the fuzz level of the test command and
+#                 tests/fuzz/run_fuzz.sh build it themselves
 # Usage: scripts/build.sh [native|win|fuzz|all]   (default: all = native + win)
 # QS_NATIVE_BUILD, QS_WIN_BUILD and QS_FUZZ_BUILD name other build folders.
 set -euo pipefail
@@ -30,7 +31,7 @@ build_win() {
 build_fuzz() {
   [ -f "$fuzz_dir/build.ninja" ] || cmake -S . -B "$fuzz_dir" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
     -DCMAKE_CXX_COMPILER=clang++ -DQS_BUILD_FUZZ=ON -DQS_BUILD_TESTS=OFF -DQS_BUILD_BENCH=OFF >/dev/null
-  ninja -C "$fuzz_dir" -j2 fuzz_record_reader fuzz_list_reader fuzz_family_readers
+  ninja -C "$fuzz_dir" -j2 fuzz_record_reader fuzz_list_reader fuzz_family_readers fuzz_command
 }
 
 case "$which_builds" in

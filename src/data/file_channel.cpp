@@ -1,5 +1,8 @@
 #include "data/file_channel.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "common/application.h"
 #include "common/failure.h"
 
@@ -87,27 +90,57 @@ std::int16_t RecordReader::ReadInt16() { return static_cast<std::int16_t>(ReadIn
 
 std::int32_t RecordReader::ReadInt32() { return static_cast<std::int32_t>(ReadInteger(INT32_MIN, INT32_MAX)); }
 
-void RecordWriter::Separate() {
-    if (lineStarted_) text_ += L',';
+const std::wstring& RecordWriter::Text() const {
+    text_.resize(used_);
+    return text_;
+}
+
+wchar_t* RecordWriter::Room(std::size_t count) {
+    // The text grows by doubling and is written in place, so that a field
+    // costs one test of the room left: a list file holds tens of thousands.
+    if (used_ + count > text_.size()) text_.resize(std::max(2 * text_.size(), used_ + count + 64));
+    wchar_t* const at = text_.data() + used_;
+    used_ += count;
+    return at;
+}
+
+wchar_t* RecordWriter::Field(std::size_t length) {
+    const bool comma = lineStarted_;
     lineStarted_ = true;
+    wchar_t* out = Room((comma ? 1 : 0) + length);
+    if (comma) *out++ = L',';
+    return out;
 }
 
 RecordWriter& RecordWriter::String(std::wstring_view value) {
-    Separate();
-    text_ += L'"';
-    text_ += value;
-    text_ += L'"';
+    wchar_t* out = Field(value.size() + 2);
+    *out++ = L'"';
+    out = std::copy(value.begin(), value.end(), out);
+    *out = L'"';
     return *this;
 }
 
 RecordWriter& RecordWriter::Integer(long long value) {
-    Separate();
-    text_ += std::to_wstring(value);
+    // Decimal digits, with a minus sign when negative, as std::to_wstring
+    // writes them.
+    wchar_t digits[24];
+    wchar_t* const end = std::end(digits);
+    wchar_t* first = end;
+    unsigned long long magnitude = value < 0 ? 0ULL - static_cast<unsigned long long>(value)
+                                             : static_cast<unsigned long long>(value);
+    do {
+        *--first = static_cast<wchar_t>(L'0' + magnitude % 10);
+        magnitude /= 10;
+    } while (magnitude != 0);
+    if (value < 0) *--first = L'-';
+    std::copy(first, end, Field(static_cast<std::size_t>(end - first)));
     return *this;
 }
 
 RecordWriter& RecordWriter::EndLine() {
-    text_ += L"\r\n";
+    wchar_t* const out = Room(2);
+    out[0] = L'\r';
+    out[1] = L'\n';
     lineStarted_ = false;
     return *this;
 }

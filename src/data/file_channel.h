@@ -49,12 +49,20 @@ public:
     RecordWriter& Integer(long long value);
     // Ends the current line.
     RecordWriter& EndLine();
-    const std::wstring& Text() const { return text_; }
+    // The text written so far.
+    const std::wstring& Text() const;
 
 private:
-    void Separate();
+    // Room for `count` more characters at the end of the text: where to
+    // write them.
+    wchar_t* Room(std::size_t count);
+    // Room for the next field of the line, after its comma when it is not
+    // the first: the place to write its `length` characters.
+    wchar_t* Field(std::size_t length);
 
-    std::wstring text_;
+    // Written up to used_; the rest is room, cut off when the text is read.
+    mutable std::wstring text_;
+    std::size_t used_ = 0;
     bool lineStarted_ = false;
 };
 

@@ -11,6 +11,23 @@ namespace qs {
 
 namespace {
 
+// Where a file's texts are made: carved from shared blocks when the file is
+// large enough to fill a good part of one, else each with an allocation of
+// its own, so that a short list does not hold a whole block.
+class FileTexts {
+public:
+    explicit FileTexts(std::size_t fileLength) {
+        if (fileLength * sizeof(wchar_t) >= ui::TextBlocks::kBlockBytes / 4) blocks_.emplace();
+    }
+
+    ui::SharedText Make(std::wstring_view text) {
+        return blocks_ ? ui::SharedText(*blocks_, text) : ui::SharedText(text);
+    }
+
+private:
+    std::optional<ui::TextBlocks> blocks_;
+};
+
 // Room for the records up to the stored last index.
 ReadRecords RoomFor(std::int16_t lastIndex) {
     ReadRecords records;
@@ -22,14 +39,14 @@ ReadRecords RoomFor(std::int16_t lastIndex) {
 
 // Every record of the file is kept, up to the stored last index; the
 // records read before a failure are still added, and only then is the
-// failure raised. The file's texts are carved from shared blocks.
-ReadRecords ReadComputerSide(RecordReader& reader, std::int16_t lastIndex) {
+// failure raised.
+ReadRecords ReadComputerSide(RecordReader& reader, std::size_t fileLength, std::int16_t lastIndex) {
     ReadRecords records = RoomFor(lastIndex);
-    ui::TextBlocks blocks;
+    FileTexts texts(fileLength);
     try {
         for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
-            ui::SharedText name(blocks, reader.ReadView());
-            ui::SharedText target(blocks, reader.ReadView());
+            ui::SharedText name = texts.Make(reader.ReadView());
+            ui::SharedText target = texts.Make(reader.ReadView());
             records.names.push_back(std::move(name));
             records.targets.push_back(std::move(target));
         }
@@ -41,16 +58,17 @@ ReadRecords ReadComputerSide(RecordReader& reader, std::int16_t lastIndex) {
 
 // A flash-side file ends early, without a word, at an empty name or target;
 // targets come back with the program's drive letter.
-ReadRecords ReadFlashSide(const Application& app, RecordReader& reader, std::int16_t lastIndex) {
+ReadRecords ReadFlashSide(const Application& app, RecordReader& reader, std::size_t fileLength,
+                          std::int16_t lastIndex) {
     ReadRecords records = RoomFor(lastIndex);
-    ui::TextBlocks blocks;
+    FileTexts texts(fileLength);
     try {
         for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
             const std::wstring_view name = reader.ReadView();
             const std::wstring_view stored = reader.ReadView();
             if (name.empty() || stored.empty()) break;
-            records.names.emplace_back(blocks, name);
-            records.targets.emplace_back(blocks, FromStoredFlashTarget(app, stored));
+            records.names.push_back(texts.Make(name));
+            records.targets.push_back(texts.Make(FromStoredFlashTarget(app, stored)));
         }
     } catch (const std::exception&) {
         records.failure = std::current_exception();
@@ -83,8 +101,11 @@ std::vector<ListFileOfLoad> ListFilesOfLoad(const Application& app) {
 std::optional<ReadRecords> ReadListFile(const Application& app, const ListFileOfLoad& file) {
     const std::wstring& path = file.flashSide ? FlashSideFile(app, file.group) : ComputerSideFile(app, file.group);
     if (!app.sys.FileExists(path)) return std::nullopt;
-    RecordReader reader(ReadDataFile(app, path));
-    return file.flashSide ? ReadFlashSide(app, reader, file.lastIndex) : ReadComputerSide(reader, file.lastIndex);
+    std::wstring text = ReadDataFile(app, path);
+    const std::size_t length = text.size();
+    RecordReader reader(std::move(text));
+    return file.flashSide ? ReadFlashSide(app, reader, length, file.lastIndex)
+                          : ReadComputerSide(reader, length, file.lastIndex);
 }
 
 std::vector<std::wstring_view> TargetViews(const std::vector<ui::SharedText>& targets) {

@@ -4,22 +4,41 @@
 // name prompt and the family routines' bug reports.
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
-#include "dialog_backend.h"
-#include "common/application.h"
 #include "data/active_family.h"
-#include "memory_system.h"
+#include "kept_application.h"
 
 namespace {
 
 using qs::fuzz::Require;
 
-bool IsFamilyTag(const std::wstring& key) {
+bool IsFamilyTag(std::wstring_view key) {
+    constexpr std::wstring_view bug = L"Quillstart:Bug:";
+    if (key.substr(0, bug.size()) != bug) return false;
+    key.remove_prefix(bug.size());
     for (const wchar_t* routine : {L"FamAAGetFamilyInfo", L"FamAASaveFamilyInfo", L"FamABGetGuruInfo",
                                    L"FamABSaveGuruInfo", L"FamilyDataAddNew", L"FamilyDateToLong", L"FamilyStart",
                                    L"InFamilyAddMe"})
-        if (key == std::wstring(L"Quillstart:Bug:") + routine) return true;
+        if (key == routine) return true;
     return false;
+}
+
+// Where the program runs, on a fixed disk or a flash drive, worked out once:
+// assigning it to the kept program reuses the room its paths already have.
+const qs::ProgramPlace& Place(bool flash) {
+    const auto make = [](bool removable) {
+        qs::ProgramPlace p;
+        p.StartingUp = true;
+        p.OnRemovable = removable;
+        p.ProgramDriveLetter = p.ProgramDriveLetterUpper = removable ? L"E" : L"C";
+        p.WindowsRoot = L"C:\\";
+        p.ProgramRoot = removable ? L"E:\\" : L"C:\\";
+        qs::AssignDataFilePaths(p);
+        return p;
+    };
+    static const qs::ProgramPlace places[2] = {make(false), make(true)};
+    return places[flash ? 1 : 0];
 }
 
 }  // namespace
@@ -35,22 +54,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::wstring kinfold = qs::fuzz::FromBytes(data + 1, split - 1);
     const std::wstring guru = split < size ? qs::fuzz::FromBytes(data + split + 1, size - split - 1) : L"";
 
-    qs::fuzz::MemorySystem sys;
+    static qs::fuzz::KeptApplication kept;
+    qs::fuzz::MemorySystem& sys = kept.sys;
     // A program file exists when its path's length is even.
     sys.exists = [](const std::wstring& path) { return path.size() % 2 == 0; };
-    qs::Application app(sys);
-    qs::test::DialogBackend dialogs{app};
-    app.AttachBackend(&dialogs);
-    qs::ProgramPlace& p = app.place;
-    p.StartingUp = true;
-    p.OnRemovable = flash;
-    p.ProgramDriveLetter = p.ProgramDriveLetterUpper = flash ? L"E" : L"C";
-    p.WindowsRoot = L"C:\\";
-    p.ProgramRoot = flash ? L"E:\\" : L"C:\\";
-    app.ProgramFolder = p.ProgramRoot + L"Tools\\";
+    qs::Application& app = kept.app;
+    const auto& dialogs = kept.dialogs;
+    app.place = Place(flash);
+    app.ProgramFolder = app.place.ProgramRoot + L"Tools\\";
     app.ProgramFile = app.ProgramFolder + L"Quillstart.exe";
     sys.files[app.ProgramFile] = L"exe";
-    qs::AssignDataFilePaths(p);
+    const qs::ProgramPlace& p = app.place;
     if (hasKinfold) sys.files[p.FileKinfold] = kinfold;
     if (hasGuru) sys.files[p.FileGuru] = guru;
 
@@ -68,9 +82,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (m.key == L"MessageGetUserName") {
             ++prompts;
         } else {
-            Require(m.entry == qs::MessageEntry::Bug && IsFamilyTag(m.key));
+            Require(m.entry == qs::fuzz::ShownMessage::Entry::Bug && IsFamilyTag(m.key));
         }
     }
     Require(prompts == (joined ? 1 : 0));
+    kept.EndInput();
     return 0;
 }

@@ -5,11 +5,9 @@
 #include <cstdint>
 #include <vector>
 
-#include "dialog_backend.h"
-#include "common/application.h"
 #include "common/text_case.h"
 #include "data/launch_list.h"
-#include "memory_system.h"
+#include "kept_application.h"
 
 namespace {
 
@@ -20,14 +18,22 @@ void RequirePairedAndSorted(const qs::ui::ListBox& names, const qs::ui::ListBox&
     for (std::int32_t i = 1; i < names.ListCount(); ++i) Require(qs::CompareNoCase(names.List(i - 1), names.List(i)) <= 0);
 }
 
-void SetPlace(qs::Application& app, bool flash) {
-    app.place.OnRemovable = flash;
-    app.place.ProgramDriveLetter = flash ? L"E" : L"C";
-    app.place.ProgramDriveLetterUpper = app.place.ProgramDriveLetter;
-    app.place.WindowsRoot = L"C:\\";
-    app.place.ProgramRoot = flash ? L"E:\\" : L"C:\\";
-    app.place.ComputerName = L"DESK1";
-    qs::AssignDataFilePaths(app.place);
+// Where the program runs, on a fixed disk or a flash drive, worked out once:
+// assigning it to the kept program reuses the room its paths already have.
+const qs::ProgramPlace& Place(bool flash) {
+    const auto make = [](bool removable) {
+        qs::ProgramPlace p;
+        p.OnRemovable = removable;
+        p.ProgramDriveLetter = removable ? L"E" : L"C";
+        p.ProgramDriveLetterUpper = p.ProgramDriveLetter;
+        p.WindowsRoot = L"C:\\";
+        p.ProgramRoot = removable ? L"E:\\" : L"C:\\";
+        p.ComputerName = L"DESK1";
+        qs::AssignDataFilePaths(p);
+        return p;
+    };
+    static const qs::ProgramPlace places[2] = {make(false), make(true)};
+    return places[flash ? 1 : 0];
 }
 
 const std::wstring& ComputerFile(const qs::Application& app, std::int16_t group) {
@@ -48,6 +54,22 @@ std::vector<std::wstring> Entries(const qs::ui::ListBox& list) {
     return out;
 }
 
+// A target exists when its length is odd: a fixed rule that lets inputs
+// reach both the kept and the dropped branch.
+bool OddLength(const std::wstring& path) { return path.size() % 2 == 1; }
+
+// The program that loads the input, and the one that loads back what the
+// first saved.
+qs::fuzz::KeptApplication& Loading() {
+    static qs::fuzz::KeptApplication kept;
+    return kept;
+}
+
+qs::fuzz::KeptApplication& LoadingBack() {
+    static qs::fuzz::KeptApplication kept;
+    return kept;
+}
+
 // What a save of the loaded side writes loads back as the same lists, unless
 // an entry holds a double quote, which the file form cannot carry.
 void RequireRoundTrip(qs::fuzz::MemorySystem& sys, qs::Application& app, std::int16_t group, bool flash) {
@@ -64,22 +86,24 @@ void RequireRoundTrip(qs::fuzz::MemorySystem& sys, qs::Application& app, std::in
     } else {
         qs::ActionLaunchListSave(app, group, last);
     }
-    qs::Application again(sys);
-    qs::test::DialogBackend againDialogs{again};
-    again.AttachBackend(&againDialogs);
+    qs::fuzz::KeptApplication& back = LoadingBack();
+    back.sys.exists = OddLength;
+    back.sys.files = sys.files;
+    qs::Application& again = back.app;
     again.place = app.place;
     if (flash) {
         qs::ActionLaunchListGetUSB(again, group, last);
     } else {
         qs::ActionLaunchListGet(again, group, last);
     }
-    Require(againDialogs.shown.empty());
+    Require(back.dialogs.shown.empty());
     const qs::ui::ListBox& names2 = shared ? again.frmChoose.ComboListItemName(slot)
                                     : flash ? again.frmHid.ComboUSBItemName(slot) : again.frmHid.ComboHDDItemName(slot);
     const qs::ui::ListBox& paths2 = shared ? again.frmChoose.ComboListItemPath(slot)
                                     : flash ? again.frmHid.ComboUSBItemPath(slot) : again.frmHid.ComboHDDItemPath(slot);
     Require(Entries(names2) == Entries(names));
     Require(Entries(paths2) == Entries(paths));
+    back.EndInput();
 }
 
 }  // namespace
@@ -92,14 +116,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto lastIndex = static_cast<std::int16_t>(data[1] | (data[2] << 8));
     const std::wstring file = qs::fuzz::FromBytes(data + 3, size - 3);
 
-    qs::fuzz::MemorySystem sys;
-    // A target exists when its length is odd: a fixed rule that lets inputs
-    // reach both the kept and the dropped branch.
-    sys.exists = [](const std::wstring& path) { return path.size() % 2 == 1; };
-    qs::Application app(sys);
-    qs::test::DialogBackend dialogs{app};
-    app.AttachBackend(&dialogs);
-    SetPlace(app, flash);
+    qs::fuzz::KeptApplication& kept = Loading();
+    qs::fuzz::MemorySystem& sys = kept.sys;
+    sys.exists = OddLength;
+    qs::Application& app = kept.app;
+    const auto& dialogs = kept.dialogs;
+    app.place = Place(flash);
     auto& names = app.frmChoose.ComboListItemName(group);
     auto& paths = app.frmChoose.ComboListItemPath(group);
     if (prefilled) qs::AddItemInStep(names, paths, L"m", L"C:\\m.exe");
@@ -124,5 +146,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                                app.frmHid.ComboUSBItemPath(group));
     }
     if (dialogs.shown.empty()) RequireRoundTrip(sys, app, group, flash);
+    kept.EndInput();
     return 0;
 }

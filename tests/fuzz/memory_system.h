@@ -1,7 +1,8 @@
 #pragma once
 // The operating system for the fuzz targets: files in memory, fixed answers
-// for everything else, and a rule deciding which launch targets exist, so
-// that each input runs in microseconds with no disk at all.
+// for everything else, a rule deciding which launch targets exist, and a
+// record of everything started, so that each input runs in microseconds
+// with no disk at all.
 #include <functional>
 #include <map>
 #include <string>
@@ -12,15 +13,27 @@
 
 namespace qs::fuzz {
 
+// Something the program asked the system to start.
+struct Launch {
+    enum class Kind { Open, Run, ScreenSaver } kind;
+    std::wstring target;
+};
+
 class MemorySystem : public System {
 public:
+    std::vector<Launch> launches;
     std::map<std::wstring, std::wstring> files;
     // Whether a path that is not among `files` exists, as file or folder.
     std::function<bool(const std::wstring&)> exists = [](const std::wstring&) { return false; };
 
-    std::int32_t ShellOpen(const std::wstring&) override { return 42; }
-    void ShellRun(const std::wstring&) override {}
-    std::wstring SpecialFolder(const std::wstring&) override { return L""; }
+    // An opening fails (as the shell answers 2, file not found) when the
+    // target's length is a multiple of 7, so the program's error paths run.
+    std::int32_t ShellOpen(const std::wstring& target) override {
+        launches.push_back({Launch::Kind::Open, target});
+        return target.size() % 7 == 0 ? 2 : 42;
+    }
+    void ShellRun(const std::wstring& commandLine) override { launches.push_back({Launch::Kind::Run, commandLine}); }
+    std::wstring SpecialFolder(const std::wstring& key) override { return L"C:\\Special\\" + key; }
     std::wstring WindowsDirectory() override { return L"C:\\Windows"; }
     std::wstring Environment(const std::wstring&) override { return L""; }
     void RegWrite(const std::wstring&, const std::wstring&) override {}
@@ -60,7 +73,7 @@ public:
     std::int32_t TwipsPerPixelY() override { return 15; }
     PixelRect WorkArea() override { return {0, 0, 1920, 1040}; }
     CalendarDate Today() override { return {2026, 11, 15}; }
-    void StartScreenSaver() override {}
+    void StartScreenSaver() override { launches.push_back({Launch::Kind::ScreenSaver, L""}); }
     void CreateShortcut(const ShortcutDetails&) override {}
     PixelPoint CursorPosition() override { return {-1, -1}; }
     void TrayIconAdd(const ui::Form&, const TrayIconData&) override {}
