@@ -179,3 +179,37 @@ e2e_scenario 'a rename to a listed name is refused and keeps the text; a new nam
   choose_rename_refused_then_taken choose_start_dark
 e2e_scenario 'a remove and a clear ask first, and after the exit the list files hold what remains' \
   choose_remove_and_clear_then_exit choose_start_light
+
+# From a flash drive: the pane shows the flash side's count, and a program of
+# the flash side removed leaves the computer's own list as it was; the flash
+# side, now empty, keeps its file with its counter at -1.
+choose_flash_side_remove() {
+  choose_open || return 1
+  qs_poll 5 choose_combo_is 1 2 0 || e2e_fail "the Program names show \"$(choose_combo 1 | head -1)\"" || return 1
+  [ "$(choose_combo 1 | sed -n 2,3p | tr '\n' ' ')" = 'homePlayer stickPlayer ' ] ||
+    e2e_fail "the Program names are $(choose_combo 1 | tail -n +2 | tr '\n' ' ')" || return 1
+  choose_label_shows 'Portable: ' || e2e_fail "no flash-drive count on a flash-drive run" || return 1
+  local rect
+  rect=$(awk -F'\t' '$1 == "child=ComboBox" && $2 == 1 { print $3; exit }' <<<"$E2E_CHILDREN")
+  browse_click_rect "$rect" || return 1
+  xdotool key Down Return
+  qs_poll 5 choose_combo_is 1 2 1 || e2e_fail "the name list did not move to stickPlayer" || return 1
+  choose_click 'Remove This Program From Launch List' || return 1
+  qs_poll 5 choose_label_shows 'Remove "stickPlayer" From Launch List?' || e2e_fail "the remove question did not show" || return 1
+  e2e_screenshot flash-question
+  choose_click 'Yes' || return 1
+  qs_poll 5 choose_combo_is 1 1 0 || e2e_fail "stickPlayer is still listed" || return 1
+  bar_click PictureMenu2 || return 1
+  qs_poll 10 choose_gone || e2e_fail "the pane stayed open" || return 1
+  e2e_close_bar || return 1
+  local stick shared='Morvane Apps/Quillstart'
+  stick=$(e2e_drive_dir E)
+  e2e_same_bytes "$stick/Morvane/$shared/ListUSBProg.Morvane" "$E2E_WORK/flash.before/$shared/ListUSBProg.Morvane" || return 1
+  e2e_same_bytes "$stick/Morvane/$(e2e_computer_name)/Quillstart/ListProg.Morvane" \
+    "$E2E_WORK/flash.before/$(e2e_computer_name)/Quillstart/ListProg.Morvane" || return 1
+  e2e_write_lines "$E2E_WORK/USBData.expected" 3 -1 -1 -1
+  e2e_same_bytes "$stick/Morvane/$shared/USBData.Morvane" "$E2E_WORK/USBData.expected"
+}
+
+e2e_scenario 'from a flash drive, a program of the flash side removed leaves the computer'"'"'s list as it was' \
+  choose_flash_side_remove flash_start
