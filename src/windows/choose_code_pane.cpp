@@ -106,12 +106,14 @@ void CodeCommandPane::Layout() {
     // The lists say what to do until a character is chosen.
     ComboCode1st.SetToolTipText(L"Select Char 1");
     ComboCode2nd.SetToolTipText(L"Select Char 2");
-    pane.Place(LabelCommand, 240, 3765, FullWidth, 1440);
+    // The longest explanation takes eight lines, and at 150 % nearly all
+    // of this room.
+    pane.Place(LabelCommand, 240, 3765, FullWidth, 1560);
 
-    pane.Place(LabelNoCode(6), 240, 5235, FullWidth, RowHeight);
+    pane.Place(LabelNoCode(6), 240, 5340, FullWidth, RowHeight);
     ui::ComboBox* names[] = {&ComboNameATask, &ComboNameCP, &ComboNameDir, &ComboNameEmail};
     for (std::int16_t i = 0; i < 4; ++i) {
-        const std::int32_t top = 5535 + i * 345;
+        const std::int32_t top = 5640 + i * 330;
         pane.Place(LabelNoCode(7 + i), 240, top + 30, 1560, RowHeight);
         pane.Place(LabelCode(i), 1860, top + 30, 420, RowHeight);
         pane.Place(*names[i], 2340, top, 2580, ListHeight);
@@ -119,13 +121,13 @@ void CodeCommandPane::Layout() {
     }
 
     // How to run a Command, in three questions and answers.
-    pane.Place(LabelNoCodeB(0), 240, 6975, FullWidth, RowHeight);
-    pane.Place(LabelNoCode(11), 240, 7230, FullWidth, RowHeight);
-    pane.Place(LabelNoCode(12), 240, 7485, FullWidth, RowHeight);
-    pane.Place(LabelNoCodeB(1), 240, 7770, 900, RowHeight);
-    pane.Place(LabelNoCode(13), 1200, 7770, 3720, RowHeight);
-    pane.Place(LabelNoCodeB(2), 240, 8055, 1500, RowHeight);
-    pane.Place(LabelNoCode(14), 1800, 8055, 3120, RowHeight);
+    pane.Place(LabelNoCodeB(0), 240, 7020, FullWidth, RowHeight);
+    pane.Place(LabelNoCode(11), 240, 7275, FullWidth, RowHeight);
+    pane.Place(LabelNoCode(12), 240, 7530, FullWidth, RowHeight);
+    pane.Place(LabelNoCodeB(1), 240, 7815, 900, RowHeight);
+    pane.Place(LabelNoCode(13), 1200, 7815, 3720, RowHeight);
+    pane.Place(LabelNoCodeB(2), 240, 8100, 1500, RowHeight);
+    pane.Place(LabelNoCode(14), 1800, 8100, 3120, RowHeight);
     for (const auto& label : LabelNoCodeB) label->SetFont(0, true);
 }
 

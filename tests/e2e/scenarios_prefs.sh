@@ -388,6 +388,16 @@ prefs_panes_at_150_percent() {
     panes_inside Preferences || return 1
     pane_shot "prefs-dpi144-theme$theme"
     code_open || return 1
+    if [ "$theme" = 0 ]; then
+      # "a" and ".", the longest explanation, to look at.
+      code_drop 1 || return 1
+      qs_poll 5 dropped_list || e2e_fail "the first list did not drop down" || return 1
+      xdotool key Down Return
+      code_point_at 2 0 6 || return 1
+      qs_poll 5 code_texts_are 'Additional Action' 'Dot = Predefined Launch Name' 'a.CreateAppShortcut' \
+        'Here 1st Char of Code "a" means the Command is for some "Additional Task". 2nd Char "." (dot) means the Launch Name (rest of the Command) is predefined in the App (not added by the user).\r\n\r\nThis Command creates a shortcut and puts an icon of "Quillstart" on the Desktop. Also creates a shortcut key for the Application : "Shift + Ctrl + L".' ||
+        code_texts_fail 'after "a" and "."' || return 1
+    fi
     panes_inside 'Code And Command' || return 1
     pane_shot "code-dpi144-theme$theme"
   done
