@@ -26,7 +26,8 @@ TextBoxWindow::TextBoxWindow(FormWindow& form, ui::TextBox& box, int id) : Contr
 void TextBoxWindow::Create() {
     DWORD style = WS_TABSTOP;
     if (box_.MultiLine()) {
-        style |= ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL;
+        style |= ES_MULTILINE | ES_AUTOVSCROLL;
+        if (box_.VerticalScrollBar()) style |= WS_VSCROLL;
     } else {
         style |= ES_AUTOHSCROLL;
     }

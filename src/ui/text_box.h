@@ -26,6 +26,10 @@ public:
     bool Locked() const { return locked_; }
     void SetLocked(bool locked);
     bool MultiLine() const { return multiLine_; }
+    // A multi-line box scrolls by a vertical scroll bar unless told that
+    // its room holds all its text. Set before the form loads.
+    bool VerticalScrollBar() const { return verticalScrollBar_; }
+    void SetVerticalScrollBar(bool shown) { verticalScrollBar_ = shown; }
 
     // Text dragged from another program and dropped on the box lands in it
     // as the user's own edit, so Change fires. Set before the form loads.
@@ -61,6 +65,7 @@ private:
     bool locked_ = false;
     bool multiLine_;
     bool acceptsTextDrop_ = false;
+    bool verticalScrollBar_ = true;
 };
 
 }  // namespace qs::ui

@@ -34,6 +34,9 @@ constexpr const wchar_t* CodeCaptions[] = {L"a.", L"c.", L"d.", L"e."};
 constexpr std::int32_t RowHeight = 255;
 constexpr std::int32_t ListHeight = 315;
 constexpr std::int32_t FullWidth = 4680;
+constexpr std::int32_t CaptionWidth = 2040;
+// Two lines of the pane's font with the box's border.
+constexpr std::int32_t ExplanationHeight = 450;
 
 }  // namespace
 
@@ -42,9 +45,9 @@ CodeCommandPane::CodeCommandPane(Application& app, FrmChoose& form)
       LabelNoCode(form, L"LabelNoCode", NoCodeCount),
       LabelNoCodeB(form, L"LabelNoCodeB", 3),
       ComboCode1st(form, L"ComboCode1st", false),
-      TextCode1st(form, L"TextCode1st"),
+      TextCode1st(form, L"TextCode1st", true),
       ComboCode2nd(form, L"ComboCode2nd", false),
-      TextCode2nd(form, L"TextCode2nd"),
+      TextCode2nd(form, L"TextCode2nd", true),
       TextCommand(form, L"TextCommand"),
       LabelCommand(form, L"LabelCommand"),
       LabelCode(form, L"LabelCode", 4),
@@ -58,6 +61,8 @@ CodeCommandPane::CodeCommandPane(Application& app, FrmChoose& form)
     for (std::int16_t i = 0; i < LabelNoCodeB.Count(); ++i) LabelNoCodeB(i).SetCaption(NoCodeBCaptions[i]);
     for (std::int16_t i = 0; i < LabelCode.Count(); ++i) LabelCode(i).SetCaption(CodeCaptions[i]);
     TextCommand.SetText(L"Command = Command Code + Launch Name");
+    // The longer explanations wrap onto a second line of their room.
+    for (ui::TextBox* box : {&TextCode1st, &TextCode2nd}) box->SetVerticalScrollBar(false);
     WireEvents();
 }
 
@@ -69,36 +74,46 @@ void CodeCommandPane::SetUp() {
 
 void CodeCommandPane::Layout() {
     ui::Frame& pane = form_.PictureCode;
-    pane.Place(LabelCaption, 240, 150, 4300, 315);
-    LabelCaption.SetFont(10, true);
-    pane.Place(LabelNoCode(0), 240, 510, FullWidth, 1050);
+    // The heading runs on one line up to the close button, and the
+    // introduction has room for a sixth line where a larger DPI wraps it so.
+    pane.Place(LabelCaption, 240, 150, 4410, 315);
+    LabelCaption.SetFont(9, true);
+    pane.Place(LabelNoCode(0), 240, 480, FullWidth, 1140);
 
-    // Each character list and the boxes that explain it, beside their
-    // captions.
+    // Each character list and the box that explains it, beside their
+    // captions. An explanation takes up to two lines; the example, whose
+    // caption is short, takes the width of the pane.
     struct Row {
         ui::Label& caption;
         ui::Control& field;
         std::int32_t top;
+        std::int32_t captionWidth;
+        std::int32_t height;
     };
     const Row rows[] = {
-        {LabelNoCode(1), ComboCode1st, 1620}, {LabelNoCode(2), TextCode1st, 1980},
-        {LabelNoCode(3), ComboCode2nd, 2340}, {LabelNoCode(4), TextCode2nd, 2700},
-        {LabelNoCode(5), TextCommand, 3060},
+        {LabelNoCode(1), ComboCode1st, 1650, CaptionWidth, ListHeight},
+        {LabelNoCode(2), TextCode1st, 2010, CaptionWidth, ExplanationHeight},
+        {LabelNoCode(3), ComboCode2nd, 2520, CaptionWidth, ListHeight},
+        {LabelNoCode(4), TextCode2nd, 2880, CaptionWidth, ExplanationHeight},
+        {LabelNoCode(5), TextCommand, 3390, 900, ListHeight},
     };
     for (const Row& row : rows) {
-        pane.Place(row.caption, 240, row.top + 30, 2040, RowHeight);
-        pane.Place(row.field, 2340, row.top, 2580, ListHeight);
+        const std::int32_t fieldLeft = 240 + row.captionWidth + 60;
+        pane.Place(row.caption, 240, row.top + 30, row.captionWidth, RowHeight);
+        pane.Place(row.field, fieldLeft, row.top, 240 + FullWidth - fieldLeft, row.height);
         row.field.SetAccessibleName(row.caption.Caption());
     }
     // The lists say what to do until a character is chosen.
     ComboCode1st.SetToolTipText(L"Select Char 1");
     ComboCode2nd.SetToolTipText(L"Select Char 2");
-    pane.Place(LabelCommand, 240, 3450, FullWidth, 1440);
+    // The longest explanation takes eight lines, and at 150 % nearly all
+    // of this room.
+    pane.Place(LabelCommand, 240, 3765, FullWidth, 1560);
 
-    pane.Place(LabelNoCode(6), 240, 4950, FullWidth, RowHeight);
+    pane.Place(LabelNoCode(6), 240, 5340, FullWidth, RowHeight);
     ui::ComboBox* names[] = {&ComboNameATask, &ComboNameCP, &ComboNameDir, &ComboNameEmail};
     for (std::int16_t i = 0; i < 4; ++i) {
-        const std::int32_t top = 5280 + i * 360;
+        const std::int32_t top = 5640 + i * 330;
         pane.Place(LabelNoCode(7 + i), 240, top + 30, 1560, RowHeight);
         pane.Place(LabelCode(i), 1860, top + 30, 420, RowHeight);
         pane.Place(*names[i], 2340, top, 2580, ListHeight);
@@ -106,13 +121,13 @@ void CodeCommandPane::Layout() {
     }
 
     // How to run a Command, in three questions and answers.
-    pane.Place(LabelNoCodeB(0), 240, 6780, FullWidth, RowHeight);
-    pane.Place(LabelNoCode(11), 240, 7050, FullWidth, RowHeight);
-    pane.Place(LabelNoCode(12), 240, 7305, FullWidth, RowHeight);
-    pane.Place(LabelNoCodeB(1), 240, 7620, 900, RowHeight);
-    pane.Place(LabelNoCode(13), 1200, 7620, 3720, RowHeight);
-    pane.Place(LabelNoCodeB(2), 240, 7950, 1500, RowHeight);
-    pane.Place(LabelNoCode(14), 1800, 7950, 3120, RowHeight);
+    pane.Place(LabelNoCodeB(0), 240, 7020, FullWidth, RowHeight);
+    pane.Place(LabelNoCode(11), 240, 7275, FullWidth, RowHeight);
+    pane.Place(LabelNoCode(12), 240, 7530, FullWidth, RowHeight);
+    pane.Place(LabelNoCodeB(1), 240, 7815, 900, RowHeight);
+    pane.Place(LabelNoCode(13), 1200, 7815, 3720, RowHeight);
+    pane.Place(LabelNoCodeB(2), 240, 8100, 1500, RowHeight);
+    pane.Place(LabelNoCode(14), 1800, 8100, 3120, RowHeight);
     for (const auto& label : LabelNoCodeB) label->SetFont(0, true);
 }
 

@@ -61,6 +61,8 @@ source tests/e2e/scenarios_themes.sh
 source tests/e2e/scenarios_focus.sh
 # shellcheck source=scenarios_choose.sh
 source tests/e2e/scenarios_choose.sh
+# shellcheck source=scenarios_prefs.sh
+source tests/e2e/scenarios_prefs.sh
 # shellcheck source=scenarios_quick.sh
 source tests/e2e/scenarios_quick.sh
 # shellcheck source=scenarios_pointer.sh

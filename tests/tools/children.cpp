@@ -14,6 +14,8 @@
 //   combo=<count>\t<index of the chosen item, -1 for none>
 //   item=<index>\t<text>
 // for its first 50 items (CB_GETLBTEXT).
+// With --state, every child's line is followed by
+//   state=<enabled 0|1>\t<BM_GETCHECK of a button, -1 for other classes>
 // Options: --title TITLE takes only a window of that title (the bar and the
 // borderless panes share a class); --centre TEXT prints only
 //   centre=<x>,<y>
@@ -144,12 +146,20 @@ BOOL CALLBACK FindChild(HWND child, LPARAM param) {
     return FALSE;
 }
 
-BOOL CALLBACK PrintChild(HWND child, LPARAM) {
+BOOL CALLBACK PrintChild(HWND child, LPARAM withState) {
     wchar_t cls[128] = {};
     GetClassNameW(child, cls, static_cast<int>(std::size(cls)));
     std::printf("child=%s\t%d\t", qs::tools::ToUtf8(cls).c_str(), IsWindowVisible(child) ? 1 : 0);
     PrintRect("", child);
     std::printf("\t%s\n", qs::tools::ToUtf8(OneLine(WindowText(child))).c_str());
+    if (withState != 0) {
+        DWORD_PTR checked = static_cast<DWORD_PTR>(-1);
+        if (_wcsicmp(cls, L"Button") == 0 &&
+            !SendMessageTimeoutW(child, BM_GETCHECK, 0, 0, SMTO_ABORTIFHUNG, 2000, &checked)) {
+            checked = static_cast<DWORD_PTR>(-1);
+        }
+        std::printf("state=%d\t%d\n", IsWindowEnabled(child) ? 1 : 0, static_cast<int>(static_cast<LRESULT>(checked)));
+    }
     if (_wcsicmp(cls, L"ListBox") == 0) PrintItems(child);
     if (_wcsicmp(cls, L"ComboBox") == 0) PrintComboItems(child);
     return TRUE;
@@ -163,10 +173,13 @@ int wmain(int argc, wchar_t** argv) {
     std::wstring centreOf;
     std::wstring childClass;
     bool centre = false;
+    bool withState = false;
     for (int i = 1; i < argc; ++i) {
         const std::wstring arg = argv[i];
         if (arg == L"--title" && i + 1 < argc) {
             search.title = argv[++i];
+        } else if (arg == L"--state") {
+            withState = true;
         } else if (arg == L"--class" && i + 1 < argc) {
             childClass = argv[++i];
         } else if (arg == L"--centre" && i + 1 < argc) {
@@ -199,6 +212,6 @@ int wmain(int argc, wchar_t** argv) {
     std::printf("\ntitle=%s\n", qs::tools::ToUtf8(WindowText(search.found)).c_str());
     const HWND owner = GetWindow(search.found, GW_OWNER);
     std::printf("owner=%s\n", owner != nullptr ? qs::tools::ToUtf8(WindowText(owner)).c_str() : "");
-    EnumChildWindows(search.found, PrintChild, 0);
+    EnumChildWindows(search.found, PrintChild, withState ? 1 : 0);
     return 0;
 }

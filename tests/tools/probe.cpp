@@ -6,6 +6,9 @@
 //   sel=<start>,<end>
 //   rect=<left>,<top>,<right>,<bottom>   (the box, screen pixels)
 //   bar=<1 when the box is the shown bar's, 0 when it is a dialog's>
+//   places=<x of each character of the box, up to 64, in its client area>
+// The places tell the box's font from outside, where WM_GETFONT answers 0:
+// a wider font or a bold one spreads the same characters further.
 // Exit code 0 when found, 2 when no such window or box exists.
 #include <windows.h>
 
@@ -97,5 +100,12 @@ int wmain(int argc, wchar_t** argv) {
     GetClassNameW(search.top, cls, static_cast<int>(std::size(cls)));
     const bool bar = lstrcmpW(cls, kBarClass) == 0 && IsWindowVisible(search.top);
     std::printf("bar=%d\n", bar ? 1 : 0);
+    std::printf("places=");
+    for (std::size_t i = 0; i < text.size() && i < 64; ++i) {
+        DWORD_PTR place = 0;
+        if (!SendMessageTimeoutW(search.edit, EM_POSFROMCHAR, i, 0, SMTO_ABORTIFHUNG, 2000, &place)) break;
+        std::printf("%s%d", i == 0 ? "" : ",", static_cast<int>(static_cast<short>(LOWORD(place))));
+    }
+    std::printf("\n");
     return 0;
 }
