@@ -233,6 +233,20 @@ e2e_click_child() {
   xdotool mousemove "$E2E_X" "$E2E_Y" click 1
 }
 
+# True once no Quillstart.exe process runs (workingset.exe exits 1 then).
+e2e_program_ended() {
+  wine "$E2E_TOOLS/workingset.exe" Quillstart.exe >/dev/null 2>&1
+  [ $? -eq 1 ]
+}
+
+# Exits by the bar's own exit button and waits for the program to end, so a
+# start that follows does not find the copy that is still saving.
+e2e_exit_by_button() {
+  bar_click PictureExit || return 1
+  qs_poll 15 e2e_bar_gone || e2e_fail "the bar did not close by its exit button" || return 1
+  qs_poll 15 e2e_program_ended || e2e_fail "Quillstart still runs after its exit button"
+}
+
 # Types a Command, checks that it arrived as typed, saves a screenshot and
 # presses Enter. Usage: e2e_command TEXT [SCREENSHOT_LABEL]
 e2e_command() {

@@ -80,7 +80,7 @@ mkdir -p "$E2E_ARTIFACTS"
 
 setup_error=""
 for f in "$E2E_EXE" "$E2E_TOOLS/recorder.exe" "$E2E_TOOLS/probe.exe" "$E2E_TOOLS/winlist.exe" "$E2E_TOOLS/drivetype.exe" \
-  "$E2E_TOOLS/endtasks.exe" "$E2E_TOOLS/closebar.exe" "$E2E_TOOLS/children.exe" "$E2E_TOOLS/bartool.exe" "$E2E_TOOLS/focus.exe"; do
+  "$E2E_TOOLS/endtasks.exe" "$E2E_TOOLS/closebar.exe" "$E2E_TOOLS/children.exe" "$E2E_TOOLS/bartool.exe" "$E2E_TOOLS/focus.exe" "$E2E_TOOLS/workingset.exe"; do
   [ -f "$f" ] || setup_error="missing $f (build with scripts/build.sh win)"
 done
 if [ -z "$setup_error" ]; then

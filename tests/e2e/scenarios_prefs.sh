@@ -108,11 +108,6 @@ pane_shot() {
     >/dev/null 2>&1 || true
 }
 
-bar_exit() {
-  bar_click PictureExit || return 1
-  qs_poll 15 e2e_bar_gone || e2e_fail "the bar did not close by its exit button"
-}
-
 # Ticks Main Text Box Font Bold and chooses 12 points: the Command box
 # changes at once; Save keeps both in the record and the next start shows them.
 prefs_font_saved_for_the_next_start() {
@@ -139,7 +134,7 @@ prefs_font_saved_for_the_next_start() {
   prefs_click 'Preferences - Save' || return 1
   qs_poll 10 prefs_gone || e2e_fail "Save did not close the pane" || return 1
   e2e_expect_box_focus 'the Save of the Preferences pane' || return 1
-  bar_exit || return 1
+  e2e_exit_by_button || return 1
   prefs_set_is 57 12 0 || return 1
   e2e_start_quillstart || return 1
   e2e_enter_text "$PREFS_SAMPLE" || return 1
@@ -192,7 +187,7 @@ prefs_unsaved_for_the_run_themes_at_once() {
   bar_click PictureMenu4 || return 1
   qs_poll 10 prefs_gone || e2e_fail "the bar's P button did not close the pane" || return 1
   e2e_expect_box_focus "closing the Preferences pane by its button on the bar" || return 1
-  bar_exit || return 1
+  e2e_exit_by_button || return 1
   prefs_set_is 57 8 6 || return 1
   e2e_start_quillstart || return 1
   prefs_open || return 1
@@ -236,7 +231,7 @@ prefs_start_with_windows() {
   prefs_click 'Preferences - Save' || return 1
   qs_poll 10 run_value_is '' || e2e_fail "Save did not delete the Run value: \"$(run_value)\"" || return 1
   qs_poll 10 prefs_gone || e2e_fail "the second Save did not close the pane" || return 1
-  bar_exit || return 1
+  e2e_exit_by_button || return 1
   prefs_set_is 56 8 0 || return 1
   flash_start || return 1
   prefs_open || return 1
