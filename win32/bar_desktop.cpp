@@ -3,6 +3,7 @@
 #include <windows.h>
 #include <shellapi.h>
 
+#include "move_loop.h"
 #include "win32_system.h"
 
 namespace qs::win {
@@ -55,10 +56,9 @@ void Win32System::TrayIconDelete(const ui::Form& form, const TrayIconData& data)
 void Win32System::DragBySurface(const ui::Form& form) {
     const HWND window = WindowOf(form);
     if (window == nullptr) return;
-    // The system moves the window with the pointer until the button is
-    // released, and only then does the call return.
-    ::ReleaseCapture();
-    ::SendMessageW(window, WM_NCLBUTTONDOWN, HTCAPTION, 0);
+    // The window follows the pointer until the button is released, and only
+    // then does the call return.
+    MoveWithPointer(window);
 }
 
 }  // namespace qs::win

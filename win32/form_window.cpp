@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "dpi.h"
+#include "move_loop.h"
 #include "res/resource_ids.h"
 #include "styled_controls.h"
 #include "window_hook.h"
@@ -409,8 +410,9 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             // Also the tray icon's callback: the bar asked for its icon's
             // mouse messages to come as its own mouse moves.
             // Only the bare surface between the strips delivers it while the
-            // form shows; a hidden bar hears its tray icon.
-            if (form_.MouseMove && ::IsWindowVisible(window) &&
+            // form shows, and the pointer anywhere while the button pressed
+            // there is held; a hidden bar hears its tray icon.
+            if (form_.MouseMove && ::IsWindowVisible(window) && ::GetCapture() != window &&
                 OverStrip({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) {
                 return 0;
             }
@@ -422,15 +424,31 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                 return 0;
             }
             break;
+        case WM_MOUSEACTIVATE:
+            // A press on the bare face of a window beside the bar starts a
+            // drag, not a visit: the keyboard stays where it was.
+            if (!form_.TakesFocusWhenShown() && LOWORD(lParam) == HTCLIENT && OverBareFace()) return MA_NOACTIVATE;
+            break;
         case WM_LBUTTONDOWN:
-            // A form with a mouse-move handler drags itself from there.
-            if (form_.MouseMove) break;
+            // A form with a mouse-move handler drags itself from there: the
+            // moves keep coming to it while the button is held, even over
+            // the strips the pointer crosses on its way.
+            if (form_.MouseMove) {
+                POINT at{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+                if (OverStrip(at)) break;
+                ::SetCapture(window);
+                ::ClientToScreen(window, &at);
+                NotePress(window, at);
+                break;
+            }
             // The bare body of a form is its caption: dragging it moves the
             // window. The strips lying on it are not bare.
             if (OverStrip({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) return 0;
-            ::ReleaseCapture();
-            ::SendMessageW(window, WM_NCLBUTTONDOWN, HTCAPTION, 0);
+            MoveWithPointer(window);
             return 0;
+        case WM_LBUTTONUP:
+            if (::GetCapture() == window) ::ReleaseCapture();
+            break;
         case WM_WINDOWPOSCHANGED: {
             const auto* position = reinterpret_cast<const WINDOWPOS*>(lParam);
             if ((position->flags & SWP_NOMOVE) == 0 && !placing_ && !detached_) ReportMove();

@@ -94,6 +94,8 @@ private:
     RECT ControlRect(const ui::Control& control) const;
     // True when the point lies on one of the form's strips.
     bool OverStrip(POINT point) const;
+    // The pointer is on the form itself: on no child window and no strip.
+    bool OverBareFace() const;
     // SW_SHOW, SW_SHOWNOACTIVATE or SW_HIDE, as the form asks.
     int ShowCommand() const;
     // The cursor of the form's pointer shape.

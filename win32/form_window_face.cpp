@@ -113,6 +113,14 @@ HBRUSH FormWindow::FaceBrushFor(HWND child, HDC dc) {
     return face_.Brush();
 }
 
+bool FormWindow::OverBareFace() const {
+    POINT point{};
+    if (!::GetCursorPos(&point)) return false;
+    ::ScreenToClient(Handle(), &point);
+    const HWND child = ::ChildWindowFromPointEx(Handle(), point, CWP_SKIPINVISIBLE);
+    return (child == nullptr || child == Handle()) && !OverStrip(point);
+}
+
 bool FormWindow::OverStrip(POINT point) const {
     for (const auto& control : controls_) {
         const ui::Control& model = control->Model();

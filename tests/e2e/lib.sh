@@ -112,10 +112,11 @@ e2e_reset() {
 }
 
 # Starts a copy of Quillstart in the background. Usage: e2e_launch [PROGRAM]
-# (default C:\Quillstart\Quillstart.exe).
+# (default C:\Quillstart\Quillstart.exe). QS_APP_DEBUG, when set, is Wine's
+# debug channel list for that copy alone (its output goes to quillstart.log).
 e2e_launch() {
   local program=${1:-'C:\Quillstart\Quillstart.exe'}
-  (cd "$WINEPREFIX/drive_c" && exec wine "$program" >>"$E2E_WORK/quillstart.log" 2>&1 &)
+  (cd "$WINEPREFIX/drive_c" && WINEDEBUG=${QS_APP_DEBUG:--all} exec wine "$program" >>"$E2E_WORK/quillstart.log" 2>&1 &)
 }
 
 # Waits for the bar of a started copy and its Command box.

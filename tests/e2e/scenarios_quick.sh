@@ -88,6 +88,8 @@ quick_window() {
 
 quick_top_is() { quick_window && [ "$QUICK_TOP" -eq "$1" ]; }
 
+quick_left_is() { quick_window && [ "$QUICK_LEFT" -eq "$1" ]; }
+
 quick_click() { e2e_click_child QuillstartBorderless QuickLaunch "$1"; }
 
 # A group of 45 pages 1-20, 21-40, 41-45 and back to a full page; an item
@@ -125,24 +127,39 @@ quick_item_hidden() {
   quick_children && [ "$(awk -F'\t' -v n="$1" '$1 == "child=QuillstartPicture" && $2 == 1 && $4 == n' <<<"$E2E_CHILDREN")" = "" ]
 }
 
-# In the dark theme: a full page, its own button hides it, and the bar's
-# button shows it again on the page it had.
+# In the dark theme: a full page; dragged by its bare face past the screen's
+# left edge it follows the pointer up and comes back inside; its own button
+# hides it, and the bar's button shows it again where it was left, on the
+# page it had.
 quick_hides_by_its_own_button() {
   bar_click PictureShowQuick || return 1
   quick_expect_page 01 20 || return 1
   e2e_screenshot full-page-dark
+  quick_window || return 1
+  local top=$QUICK_TOP bare x y
+  bare=$(wine "$E2E_TOOLS/children.exe" QuillstartBorderless --title QuickLaunch --bare 2>/dev/null | tr -d '\r')
+  IFS=, read -r x y <<<"${bare#bare=}"
+  [ -n "$y" ] || e2e_fail "no bare face to drag the QuickLauncher by" || return 1
+  xdotool mousemove "$x" "$y" mousedown 1 sleep 0.2 mousemove "$((x - 4))" "$((y - 3))" sleep 0.2 \
+    mousemove "$((x - 30))" "$((y - 100))" sleep 0.2 mousemove 5 "$((y - 300))" sleep 0.2 mouseup 1
+  qs_poll 5 quick_top_is "$((top - 300))" || e2e_fail "the drag left the QuickLauncher at top $QUICK_TOP, not $((top - 300))" || return 1
+  qs_poll 5 quick_left_is 0 || e2e_fail "the QuickLauncher was left at $QUICK_LEFT after a drag past the left edge" || return 1
+  e2e_expect_box_focus 'dragging the QuickLauncher' || return 1
   quick_click 'Program List Go Frorward' || return 1
   quick_expect_page 21 40 || return 1
   quick_click 'Hide QuickLauncher' || return 1
   qs_poll 5 quick_hidden || e2e_fail "its own button did not hide the QuickLauncher" || return 1
   e2e_expect_box_focus 'hiding the QuickLauncher by its own button' || return 1
   bar_click PictureShowQuick || return 1
-  quick_expect_page 21 40
+  quick_expect_page 21 40 || return 1
+  quick_window || return 1
+  [ "$QUICK_LEFT" -eq 0 ] && [ "$QUICK_TOP" -eq "$((top - 300))" ] ||
+    e2e_fail "shown again at $QUICK_LEFT,$QUICK_TOP, not where it was dragged to (0,$((top - 300)))"
 }
 
 e2e_scenario 'a QuickLauncher group of 45 pages 1-20, 21-40, 41-45 and back; a click launches; the height toggle above the bar moves it to the top' \
   quick_pages_launches_and_moves quick_start_45_light
-e2e_scenario 'the QuickLauncher hides by its own button and comes back on the page it had' \
+e2e_scenario 'the QuickLauncher dragged past the edge comes back inside, hides by its own button and comes back where it was, on the page it had' \
   quick_hides_by_its_own_button quick_start_45_dark
 
 # At 150 %: the Launch List pane with a question standing and the

@@ -21,11 +21,20 @@
 //   centre=<x>,<y>
 // the screen place of the middle of the first shown child whose window text
 // is TEXT (a picture button's text is its tooltip or its name), exit code 3
-// when none shows; with --class CLASS only a child of that class counts. Exit code 0 when found, 2 when no such window is shown.
+// when none shows; with --class CLASS only a child of that class counts.
+// --bare prints only
+//   bare=<x>,<y>
+// the screen place in the middle of the widest run of columns of the window
+// that show its bare face from top to bottom (the colour of its top-left
+// pixel, read from the screen, with no child window on them): a place to
+// drag the window by; exit code 3 when there is none.
+// Exit code 0 when found, 2 when no such window is shown.
 #include <windows.h>
 
+#include <cstdint>
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #include "utf8.h"
 
@@ -165,6 +174,80 @@ BOOL CALLBACK PrintChild(HWND child, LPARAM withState) {
     return TRUE;
 }
 
+// The window's pixels as the screen shows them, row by row.
+std::vector<COLORREF> ScreenPixels(const RECT& r) {
+    const int width = r.right - r.left;
+    const int height = r.bottom - r.top;
+    std::vector<COLORREF> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    HDC screen = GetDC(nullptr);
+    HDC memory = CreateCompatibleDC(screen);
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof(info.bmiHeader);
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    void* bits = nullptr;
+    HBITMAP bitmap = CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    if (bitmap != nullptr) {
+        HGDIOBJ old = SelectObject(memory, bitmap);
+        BitBlt(memory, 0, 0, width, height, screen, r.left, r.top, SRCCOPY);
+        SelectObject(memory, old);
+        const auto* rows = static_cast<const std::uint32_t*>(bits);
+        for (std::size_t i = 0; i < pixels.size(); ++i) pixels[i] = rows[i] & 0xFFFFFFu;
+        DeleteObject(bitmap);
+    }
+    DeleteDC(memory);
+    ReleaseDC(nullptr, screen);
+    return pixels;
+}
+
+bool ChildAt(HWND top, POINT screen) {
+    POINT client = screen;
+    ScreenToClient(top, &client);
+    const HWND at = ChildWindowFromPointEx(top, client, CWP_SKIPINVISIBLE);
+    return at != nullptr && at != top;
+}
+
+int PrintBare(HWND top) {
+    RECT r = {};
+    GetWindowRect(top, &r);
+    const int width = r.right - r.left;
+    const int height = r.bottom - r.top;
+    if (width <= 0 || height <= 0) return 3;
+    const std::vector<COLORREF> pixels = ScreenPixels(r);
+    const COLORREF face = pixels[0];
+    const auto bareColumn = [&](int x) {
+        for (int y = 0; y < height; ++y) {
+            if (pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x)] != face) {
+                return false;
+            }
+            if (ChildAt(top, {r.left + x, r.top + y})) return false;
+        }
+        return true;
+    };
+    int bestStart = -1;
+    int bestLength = 0;
+    // The window's own edges do not count: a run must have face on both sides.
+    for (int x = 1, start = -1; x < width - 1; ++x) {
+        if (bareColumn(x)) {
+            if (start < 0) start = x;
+            if (x - start + 1 > bestLength) {
+                bestStart = start;
+                bestLength = x - start + 1;
+            }
+        } else {
+            start = -1;
+        }
+    }
+    if (bestStart < 0) {
+        std::fputs("no bare face\n", stderr);
+        return 3;
+    }
+    std::printf("bare=%ld,%ld\n", r.left + bestStart + bestLength / 2, r.top + height / 2);
+    return 0;
+}
+
 }  // namespace
 
 int wmain(int argc, wchar_t** argv) {
@@ -173,11 +256,14 @@ int wmain(int argc, wchar_t** argv) {
     std::wstring centreOf;
     std::wstring childClass;
     bool centre = false;
+    bool bare = false;
     bool withState = false;
     for (int i = 1; i < argc; ++i) {
         const std::wstring arg = argv[i];
         if (arg == L"--title" && i + 1 < argc) {
             search.title = argv[++i];
+        } else if (arg == L"--bare") {
+            bare = true;
         } else if (arg == L"--state") {
             withState = true;
         } else if (arg == L"--class" && i + 1 < argc) {
@@ -194,6 +280,7 @@ int wmain(int argc, wchar_t** argv) {
         std::fputs("no window\n", stderr);
         return 2;
     }
+    if (bare) return PrintBare(search.found);
     if (centre) {
         Find find;
         find.text = centreOf;
