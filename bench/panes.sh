@@ -19,70 +19,17 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 pages=${QS_BENCH_PAGES:-7}
-win_build=${QS_WIN_BUILD:-build/win}
 
 bash scripts/install-deps.sh
 bash scripts/build.sh win
 
-# shellcheck source=../scripts/session.sh
-source scripts/session.sh
-
-work=$(mktemp -d /tmp/quillstart-panes.XXXXXX)
-finish() {
-  qs_stop_wine
-  qs_stop_display
-  rm -rf "$work"
-}
-trap finish EXIT
-
-qs_start_display "$work"
-qs_new_prefix "$work/prefix" "$work/wineboot.log"
-c=$WINEPREFIX/drive_c
-mkdir -p "$c/Quillstart" "$c/bench"
-cp "$win_build/win32/Quillstart.exe" "$c/Quillstart/Quillstart.exe"
-cp "$win_build/bench/panetool.exe" "$win_build/tests/tools/probe.exe" "$win_build/tests/tools/endtasks.exe" "$c/bench/"
-# shellcheck source=../tests/e2e/data.sh
-source tests/e2e/data.sh
-E2E_WORK=$work
-qs_start_wineserver
-
-tool() {
-  wine 'C:\bench\panetool.exe' "$@" 2>"$work/tool.err" | tr -d '\r'
-}
-
-# One timed click; prints the milliseconds. Usage: timed TITLE TEXT [SHOWN]
-timed() {
-  local out
-  out=$(tool click "$@") || { echo "panes: the click on \"$2\" did not finish: $(cat "$work/tool.err")" >&2; exit 1; }
-  sed -n 's/^ms=//p' <<<"$out"
-}
-
-memory_mb() {
-  tool memory | sed -n 's/^working_set_kb=//p' | awk '{ printf "%.1f", $1 / 1024 }'
-}
-
-box_holds() {
-  wine 'C:\bench\probe.exe' 2>/dev/null | tr -d '\r' | grep -qx "text=$1"
-}
-
-median() {
-  sort -g | awk '{ a[NR] = $1 } END { if (NR % 2) print a[(NR + 1) / 2]; else printf "%.1f\n", (a[NR / 2] + a[NR / 2 + 1]) / 2 }'
-}
+# shellcheck source=wine_bench.sh
+source bench/wine_bench.sh
 
 declare -A figure
 for state in ten program; do
-  wine 'C:\bench\endtasks.exe' image:Quillstart.exe >/dev/null 2>&1 || true
-  rm -rf "$c/Morvane" "$c"/Bench-*
-  e2e_seed_family C
   echo "panes: seeding $state lists"
-  python3 bench/seed_lists.py "$c" "$state"
-  (cd "$c" && exec wine 'C:\Quillstart\Quillstart.exe' >>"$work/quillstart.log" 2>&1 &)
-  qs_poll 60 box_holds Quillstart || { echo "panes: the bar did not come up" >&2; exit 1; }
-  # The first keystroke is taken once the lists are whole.
-  xdotool key End
-  xdotool type x
-  qs_poll 120 box_holds Quillstartx || { echo "panes: the bar took no keystroke" >&2; exit 1; }
-  xdotool key BackSpace
+  bench_start "$state"
   figure[$state.bar_mb]=$(memory_mb)
   figure[$state.open1]=$(timed Quillstart 'Show|HIde   Launch List' 'Launch List')
   figure[$state.pane_mb]=$(memory_mb)
@@ -117,7 +64,7 @@ for state in ten program; do
     "$state" "${figure[$state.bar_mb]}" "${figure[$state.open1]}" "${figure[$state.pane_mb]}" "${figure[$state.open2]}" \
     "${figure[$state.group]}" "${figure[$state.page]}" "${figure[$state.clear]}"
 done
-wine 'C:\bench\endtasks.exe' image:Quillstart.exe >/dev/null 2>&1 || true
+bench_stop
 
 echo
 printf '%-34s %12s %12s %8s\n' "" "ten a group" "32,767 prog" "ratio"

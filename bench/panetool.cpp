@@ -7,6 +7,11 @@
 //       done all the click asked of it (a window titled SHOWN_TITLE shows,
 //       when given, and a message sent to the thread is answered); prints
 //       "ms=<milliseconds>"
+//   paint-click TITLE TEXT
+//       as click, and then until every shown window of Quillstart has
+//       painted what the click left to paint (each one's pending paints are
+//       asked for at once, and a paint asked of another program's window is
+//       answered when it is done)
 //   memory
 //       prints "working_set_kb=<Quillstart's working set>"
 //   text TITLE
@@ -70,7 +75,23 @@ HWND ShownTop(const std::wstring& title) {
 // title but another class).
 HWND Bar() { return FindWindowExW(nullptr, nullptr, L"QuillstartBorderless", L"Quillstart"); }
 
-int Click(const std::wstring& title, const std::wstring& text, const wchar_t* shownTitle) {
+struct Painting {
+    DWORD process = 0;
+    bool ok = true;
+};
+
+BOOL CALLBACK PaintTop(HWND top, LPARAM param) {
+    auto* painting = reinterpret_cast<Painting*>(param);
+    DWORD process = 0;
+    GetWindowThreadProcessId(top, &process);
+    if (process != painting->process || !IsWindowVisible(top)) return TRUE;
+    if (!RedrawWindow(top, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN)) painting->ok = false;
+    return TRUE;
+}
+
+enum class After { Done, Painted };
+
+int Click(const std::wstring& title, const std::wstring& text, const wchar_t* shownTitle, After after = After::Done) {
     const HWND top = ShownTop(title);
     if (top == nullptr) {
         std::fprintf(stderr, "no window %ls\n", title.c_str());
@@ -103,6 +124,12 @@ int Click(const std::wstring& title, const std::wstring& text, const wchar_t* sh
         Sleep(1);
         if (!SendMessageTimeoutW(top, WM_NULL, 0, 0, SMTO_NORMAL, 60000, &answer)) return 2;
     }
+    if (after == After::Painted) {
+        Painting painting;
+        GetWindowThreadProcessId(top, &painting.process);
+        EnumWindows(PaintTop, reinterpret_cast<LPARAM>(&painting));
+        if (!painting.ok) return 2;
+    }
     const double ms = std::chrono::duration<double, std::milli>(Clock::now() - start).count();
     std::printf("ms=%.1f\n", ms);
     return 0;
@@ -134,6 +161,7 @@ BOOL CALLBACK PrintText(HWND child, LPARAM) {
 int wmain(int argc, wchar_t** argv) {
     const std::wstring command = argc > 1 ? argv[1] : L"";
     if (command == L"click" && argc >= 4) return Click(argv[2], argv[3], argc >= 5 ? argv[4] : nullptr);
+    if (command == L"paint-click" && argc >= 4) return Click(argv[2], argv[3], nullptr, After::Painted);
     if (command == L"memory") return Memory();
     if (command == L"text" && argc >= 3) {
         const HWND top = ShownTop(argv[2]);
@@ -141,6 +169,6 @@ int wmain(int argc, wchar_t** argv) {
         EnumChildWindows(top, PrintText, 0);
         return 0;
     }
-    std::fputs("usage: panetool click TITLE TEXT [SHOWN_TITLE] | memory | text TITLE\n", stderr);
+    std::fputs("usage: panetool click TITLE TEXT [SHOWN_TITLE] | paint-click TITLE TEXT | memory | text TITLE\n", stderr);
     return 2;
 }
