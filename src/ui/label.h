@@ -20,6 +20,11 @@ public:
         Notify(Property::Text);
     }
 
+    // 0: no border; 1: a single thin line around the label. Set at design,
+    // before the label's window is made.
+    std::int16_t BorderStyle() const { return borderStyle_; }
+    void SetBorderStyle(std::int16_t style) { borderStyle_ = style; }
+
     std::function<void()> Click;
     std::function<void(std::int16_t button, std::int16_t shift, std::int32_t x, std::int32_t y)> MouseMove;
 
@@ -33,6 +38,7 @@ public:
 
 private:
     std::wstring caption_;
+    std::int16_t borderStyle_ = 0;
 };
 
 }  // namespace qs::ui

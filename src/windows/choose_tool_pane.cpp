@@ -86,6 +86,9 @@ void PreferencesPane::Layout() {
         const std::int32_t top = 285 + (i / 4) * 345;
         FrameTheme.Place(OptionTheme(i), left, top, 870, RowHeight);
         FrameTheme.Place(LabelColor(i), left + 885, top + 15, 240, 240);
+        // A thin line around each swatch: the current theme's colour is
+        // also the frame's, and would not show without it.
+        LabelColor(i).SetBorderStyle(1);
     }
 
     // The note and the call to press Save share one place; the call holds

@@ -42,6 +42,14 @@ TEST(ChooseToolTheme, EverySwatchShowsItsOwnThemesColourWhicheverThemeIsCurrent)
     EXPECT_EQ(t.pane().LabelColor(4).BackColor(), ColorBlue);
 }
 
+TEST(ChooseToolTheme, EverySwatchIsOutlinedSoTheCurrentThemesShowsOnAFrameOfItsOwnColour) {
+    PrefsApp t({.theme = 3});
+    std::int16_t dark = 3;
+    ThemeCreate(t.app, dark);
+    EXPECT_EQ(t.pane().LabelColor(3).BackColor(), t.pane().FrameTheme.BackColor());
+    for (const auto& swatch : t.pane().LabelColor) EXPECT_EQ(swatch->BorderStyle(), 1);
+}
+
 TEST(ChooseToolTheme, EachThemeColoursTheCodePaneByKindAndItsHeadingsByTheAccent) {
     PrefsApp t;
     CodeCommandPane& c = t.choose().Code;

@@ -5,6 +5,9 @@
 
 #include <windows.h>
 
+#include <memory>
+#include <type_traits>
+
 #include <vector>
 
 #include "dpi.h"
@@ -261,6 +264,49 @@ TEST(FramedControlColors, ALabelInAColouredFrameShowsTheFramesColourAndOneOutsid
     // A colour of its own still wins over the frame's.
     form.Inside.SetBackColor(Rgb(10, 20, 30));
     EXPECT_EQ(ColorOfBrush(ask(inside)), RGB(10, 20, 30));
+    form.Unload();
+    qs::test::Pump();
+}
+
+}  // namespace
+
+namespace {
+
+class SwatchForm : public qs::ui::Form {
+public:
+    SwatchForm() : Form(L"frmSwatchTest", qs::ui::FormStyle::Borderless), Swatch(*this, L"LabelColor") {
+        SetCaption(L"QuillstartSwatchTest");
+        Move(1500, 1500, 1500, 1500);
+        Swatch.Move(300, 300, 480, 480);
+        Swatch.SetBorderStyle(1);
+    }
+    qs::ui::Label Swatch;
+};
+
+TEST(LabelBorderTest, AnOutlinedLabelOfTheFormsOwnColourStillShowsItsEdge) {
+    qs::test::Pump();
+    qs::win::Win32Backend backend{::GetModuleHandleW(nullptr)};
+    SwatchForm form;
+    form.SetBackend(&backend);
+    form.SetBackColor(Rgb(80, 80, 80));
+    form.Swatch.SetBackColor(Rgb(80, 80, 80));
+    form.Load();
+    form.Show();
+    const HWND window = backend.WindowOf(form);
+    ASSERT_NE(window, nullptr);
+    const HWND swatch = ::FindWindowExW(window, nullptr, L"STATIC", nullptr);
+    ASSERT_NE(swatch, nullptr);
+    EXPECT_NE(::GetWindowLongPtrW(swatch, GWL_STYLE) & WS_BORDER, 0);
+    ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME);
+    RECT r{};
+    ::GetWindowRect(swatch, &r);
+    {
+        // The whole window's DC, border included.
+        const auto release = [swatch](HDC dc) { ::ReleaseDC(swatch, dc); };
+        const std::unique_ptr<std::remove_pointer_t<HDC>, decltype(release)> dc(::GetWindowDC(swatch), release);
+        EXPECT_NE(::GetPixel(dc.get(), 0, (r.bottom - r.top) / 2), RGB(80, 80, 80));
+        EXPECT_EQ(::GetPixel(dc.get(), (r.right - r.left) / 2, (r.bottom - r.top) / 2), RGB(80, 80, 80));
+    }
     form.Unload();
     qs::test::Pump();
 }
