@@ -7,28 +7,21 @@
 // are not typed keys and always work.
 #include <cstdint>
 
-#include "control_window.h"
+#include "items_window.h"
 #include "ui/combo_box.h"
 
 namespace qs::win {
 
-class ComboBoxWindow : public ControlWindow {
+class ComboBoxWindow : public ItemsWindow {
 public:
-    ComboBoxWindow(FormWindow& form, ui::ComboBox& combo, int id) : ControlWindow(form, combo, id), combo_(combo) {}
+    ComboBoxWindow(FormWindow& form, ui::ComboBox& combo, int id)
+        : ItemsWindow(form, combo, id, kComboBoxMessages), combo_(combo) {}
 
     void Create() override;
-    void OnCommand(WORD code) override;
     bool TakesFocus() const override { return Handle() != nullptr && Model().Shown() && Model().Enabled(); }
     bool OwnsPart(HWND window) const override { return window != nullptr && window == droppedList_; }
-    COLORREF DefaultTextColor() const override { return ::GetSysColor(COLOR_WINDOWTEXT); }
-    HBRUSH DefaultBackground(HDC) override { return nullptr; }
-    void ItemInserted(std::int32_t index) override;
-    void ItemRemoved(std::int32_t index) override;
-    void ItemChanged(std::int32_t index) override;
-    void ItemsCleared() override;
 
 protected:
-    void OnChanged(ui::Property what) override;
     // The window's height takes in the dropped list: this many rows.
     virtual int DroppedRows() const { return 12; }
     RECT PixelRect() const override;
@@ -36,8 +29,6 @@ protected:
 private:
     static LRESULT ComboProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* self);
     LRESULT HandleChar(HWND window, WPARAM wParam, LPARAM lParam);
-    void WriteItems();
-    void WriteIndex();
 
     ui::ComboBox& combo_;
     // The list the box drops, which asks for its colours as the box does.

@@ -2,6 +2,7 @@
 // The peers of the simpler control kinds.
 #include "control_window.h"
 #include "handles.h"
+#include "items_window.h"
 #include "ui/check_box.h"
 #include "ui/command_button.h"
 #include "ui/label.h"
@@ -80,30 +81,14 @@ private:
 
 // A list box gets a LISTBOX window only once it is shown; a hidden list
 // (the program keeps many) costs no window at all.
-class ListBoxWindow : public ControlWindow {
+class ListBoxWindow : public ItemsWindow {
 public:
-    ListBoxWindow(FormWindow& form, ui::ListBox& list, int id) : ControlWindow(form, list, id), list_(list) {}
+    ListBoxWindow(FormWindow& form, ui::ListBox& list, int id) : ItemsWindow(form, list, id, kListBoxMessages) {}
     void Create() override;
-    void OnCommand(WORD code) override;
     bool TakesFocus() const override { return Handle() != nullptr && Model().Shown(); }
-    COLORREF DefaultTextColor() const override { return ::GetSysColor(COLOR_WINDOWTEXT); }
-    HBRUSH DefaultBackground(HDC) override { return nullptr; }
-    void ItemInserted(std::int32_t index) override;
-    void ItemRemoved(std::int32_t index) override;
-    void ItemChanged(std::int32_t index) override;
-    void ItemsCleared() override;
 
 protected:
-    void OnChanged(ui::Property what) override;
     bool TextIsName() const override { return true; }
-    // The text the window shows for an entry.
-    virtual std::wstring ItemText(std::int32_t index) const { return std::wstring(list_.List(index)); }
-
-private:
-    void WriteItems();
-    void WriteIndex();
-
-    ui::ListBox& list_;
 };
 
 // A control kind with no behaviour of its own here: a plain child window
