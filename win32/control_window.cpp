@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 
 #include "color_ref.h"
 #include "dialog_look.h"
@@ -22,7 +21,8 @@ void ControlWindow::Detach() {
     if (detached_) return;
     detached_ = true;
     if (control_.Peer() == this) control_.AttachPeer(nullptr);
-    window_ = nullptr;
+    // The form's window is destroyed next, and the child with it.
+    window_.Release();
 }
 
 void ControlWindow::CreateChild(const wchar_t* windowClass, DWORD style, DWORD exStyle) {
@@ -32,26 +32,25 @@ void ControlWindow::CreateChild(const wchar_t* windowClass, DWORD style, DWORD e
     const RECT r = PixelRect();
     std::optional<StyledControlsScope> styled;
     if (HasStyledLook(windowClass)) styled.emplace();
-    window_ = ::CreateWindowExW(exStyle, windowClass, L"", style, r.left, r.top, r.right - r.left, r.bottom - r.top,
-                                form_.Handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(id_)),
-                                ::GetModuleHandleW(nullptr), nullptr);
+    const auto menu = reinterpret_cast<HMENU>(static_cast<INT_PTR>(id_));
+    window_.Reset(::CreateWindowExW(exStyle, windowClass, L"", style, r.left, r.top, r.right - r.left,
+                                    r.bottom - r.top, form_.Handle(), menu, ::GetModuleHandleW(nullptr), nullptr));
     styled.reset();
-    if (window_ == nullptr) return;
-    ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(ControlFont()), FALSE);
-    if (!control_.ToolTipText().empty()) form_.SetToolTip(window_, control_.ToolTipText());
+    if (!window_) return;
+    ::SendMessageW(window_.Get(), WM_SETFONT, reinterpret_cast<WPARAM>(ControlFont()), FALSE);
+    if (!control_.ToolTipText().empty()) form_.SetToolTip(window_.Get(), control_.ToolTipText());
     WriteName();
     form_.ChildCreated();
 }
 
 void ControlWindow::WriteName() {
-    if (window_ == nullptr || !TextIsName()) return;
+    if (!window_ || !TextIsName()) return;
     const std::wstring& tip = control_.ToolTipText();
-    ::SetWindowTextW(window_, (tip.empty() ? control_.AccessibleName() : tip).c_str());
+    ::SetWindowTextW(window_.Get(), (tip.empty() ? control_.AccessibleName() : tip).c_str());
 }
 
 void ControlWindow::DestroyChild() {
-    if (window_ == nullptr) return;
-    ::DestroyWindow(std::exchange(window_, nullptr));
+    window_.Reset();
 }
 
 HFONT ControlWindow::ControlFont() const {
@@ -91,7 +90,7 @@ HBRUSH ControlWindow::DefaultBackground(HDC dc) {
          container = container->Container()) {
         if (container->BackColor() != ui::DefaultColor) return SolidBackground(dc, container->BackColor());
     }
-    return form_.FaceBrushFor(window_, dc);
+    return form_.FaceBrushFor(window_.Get(), dc);
 }
 
 HBRUSH ControlWindow::ControlColor(HDC dc) {
@@ -124,15 +123,16 @@ RECT ControlWindow::PixelRect() const {
 }
 
 void ControlWindow::ApplyGeometry() {
-    if (window_ == nullptr) return;
+    if (!window_) return;
     const RECT r = PixelRect();
-    ::SetWindowPos(window_, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    ::SetWindowPos(window_.Get(), nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
+                   SWP_NOZORDER | SWP_NOACTIVATE);
     form_.FieldsMoved();
 }
 
 void ControlWindow::ApplyDpi() {
-    if (window_ == nullptr) return;
-    ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(ControlFont()), TRUE);
+    if (!window_) return;
+    ::SendMessageW(window_.Get(), WM_SETFONT, reinterpret_cast<WPARAM>(ControlFont()), TRUE);
     ApplyGeometry();
 }
 
@@ -143,26 +143,27 @@ void ControlWindow::Changed(ui::Property what) {
             ApplyGeometry();
             break;
         case ui::Property::Visible:
-            if (window_ != nullptr) {
+            if (window_) {
                 const HWND focus = ::GetFocus();
-                const bool heldFocus = focus != nullptr && (focus == window_ || ::IsChild(window_, focus));
-                ::ShowWindow(window_, control_.Shown() ? SW_SHOWNA : SW_HIDE);
+                const bool heldFocus =
+                    focus != nullptr && (focus == window_.Get() || ::IsChild(window_.Get(), focus));
+                ::ShowWindow(window_.Get(), control_.Shown() ? SW_SHOWNA : SW_HIDE);
                 // A hidden control takes no keys: the focus it held goes on
                 // to the form's first control that can take it.
                 if (heldFocus && !control_.Shown()) form_.FocusFirstControl();
             }
             break;
         case ui::Property::Enabled:
-            if (window_ != nullptr) ::EnableWindow(window_, control_.Enabled() ? TRUE : FALSE);
+            if (window_) ::EnableWindow(window_.Get(), control_.Enabled() ? TRUE : FALSE);
             break;
         case ui::Property::Focus:
-            if (window_ != nullptr) {
-                form_.ControlFocused(window_);
-                ::SetFocus(window_);
+            if (window_) {
+                form_.ControlFocused(window_.Get());
+                ::SetFocus(window_.Get());
             }
             break;
         case ui::Property::ToolTip:
-            form_.SetToolTip(window_, control_.ToolTipText());
+            form_.SetToolTip(window_.Get(), control_.ToolTipText());
             WriteName();
             break;
         case ui::Property::AccessibleName:
@@ -172,14 +173,14 @@ void ControlWindow::Changed(ui::Property what) {
             form_.TabIndexChanged(*this);
             break;
         case ui::Property::Font:
-            if (window_ != nullptr) {
-                ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(ControlFont()), TRUE);
+            if (window_) {
+                ::SendMessageW(window_.Get(), WM_SETFONT, reinterpret_cast<WPARAM>(ControlFont()), TRUE);
                 ApplyGeometry();
             }
             break;
         case ui::Property::Colors:
             // The window asks for its colours again as it repaints.
-            if (window_ != nullptr) ::InvalidateRect(window_, nullptr, TRUE);
+            if (window_) ::InvalidateRect(window_.Get(), nullptr, TRUE);
             break;
         default:
             break;

@@ -23,7 +23,7 @@ public:
     void Changed(ui::Property what) final;
 
     ui::Control& Model() const { return control_; }
-    HWND Handle() const { return window_; }
+    HWND Handle() const { return window_.Get(); }
     int Id() const { return id_; }
     // True once the form is unloaded: the control no longer has a window.
     bool Detached() const { return detached_; }
@@ -86,7 +86,8 @@ private:
     FormWindow& form_;
     ui::Control& control_;
     int id_;
-    HWND window_ = nullptr;
+    // Destroyed by DestroyChild, or else with the form's window.
+    WindowHandle window_;
     bool detached_ = false;
     // The control's own background brush, made again only when its colour
     // changes.

@@ -94,6 +94,8 @@ void FormWindow::Detach() {
     detached_ = true;
     for (auto& control : controls_) control->Detach();
     if (form_.Peer() == this) form_.AttachPeer(nullptr);
+    // The tip window is owned by the form's window and goes with it.
+    toolTips_.Release();
     window_.Reset();
 }
 
@@ -182,23 +184,24 @@ void FormWindow::SetToolTip(HWND child, const std::wstring& text) {
         waitingTips_[child] = text;
         return;
     }
-    if (toolTips_ == nullptr) {
+    if (!toolTips_) {
         if (text.empty()) return;
         const StyledControlsScope styled;
-        toolTips_ = ::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
-                                      CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, Handle(), nullptr,
-                                      ::GetModuleHandleW(nullptr), nullptr);
-        if (toolTips_ == nullptr) return;
+        toolTips_.Reset(::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
+                                          WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT, CW_USEDEFAULT,
+                                          CW_USEDEFAULT, CW_USEDEFAULT, Handle(), nullptr,
+                                          ::GetModuleHandleW(nullptr), nullptr));
+        if (!toolTips_) return;
     }
     TTTOOLINFOW tool{};
     tool.cbSize = sizeof(tool);
     tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
     tool.hwnd = Handle();
     tool.uId = reinterpret_cast<UINT_PTR>(child);
-    ::SendMessageW(toolTips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    ::SendMessageW(toolTips_.Get(), TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
     if (text.empty()) return;
     tool.lpszText = const_cast<wchar_t*>(text.c_str());
-    ::SendMessageW(toolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    ::SendMessageW(toolTips_.Get(), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 void FormWindow::FirstShown() {

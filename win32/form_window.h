@@ -126,7 +126,7 @@ private:
     // The window that was active when this one was activated last.
     HWND activatedFrom_ = nullptr;
     // The form's tooltip window, made at the first tip; owned by the form's window.
-    HWND toolTips_ = nullptr;
+    WindowHandle toolTips_;
     // Tips by child window, set before the window first showed.
     std::map<HWND, std::wstring> waitingTips_;
     bool firstShowingPosted_ = false;
