@@ -9,7 +9,7 @@
 namespace qs::win {
 
 void LabelWindow::Create() {
-    CreateChild(L"STATIC", SS_LEFT | SS_NOPREFIX | SS_NOTIFY);
+    CreateChild(L"STATIC", SS_LEFT | SS_NOTIFY | (label_.UseMnemonic() ? 0 : SS_NOPREFIX));
     if (Handle() == nullptr) return;
     ::SetWindowTextW(Handle(), label_.Caption().c_str());
     HookWindow(Handle(), LabelProc, this);

@@ -20,6 +20,11 @@ public:
         Notify(Property::Text);
     }
 
+    // A caption that shows "&&" as one "&", as a caption given as a menu's
+    // is written. Set before the form loads.
+    bool UseMnemonic() const { return useMnemonic_; }
+    void SetUseMnemonic(bool use) { useMnemonic_ = use; }
+
     std::function<void()> Click;
     std::function<void(std::int16_t button, std::int16_t shift, std::int32_t x, std::int32_t y)> MouseMove;
 
@@ -33,6 +38,7 @@ public:
 
 private:
     std::wstring caption_;
+    bool useMnemonic_ = false;
 };
 
 }  // namespace qs::ui
