@@ -345,3 +345,10 @@ e2e_run_all() {
   E2E_PASSED=$passed
   E2E_FAILED=$failed
 }
+
+# Saves one part of the screen, in screen pixels from LEFT,TOP to
+# RIGHT,BOTTOM. Usage: e2e_screenshot_area LEFT TOP RIGHT BOTTOM LABEL
+e2e_screenshot_area() {
+  import -window root -crop "$(($3 - $1))x$(($4 - $2))+$1+$2" +repage "$E2E_ARTIFACTS/$E2E_SHOT_PREFIX-$5.png" \
+    >/dev/null 2>&1 || true
+}
