@@ -37,9 +37,8 @@ constexpr std::int32_t PanelTop = 1440;
 constexpr std::int32_t PanelWidth = 3600;
 constexpr std::int32_t PanelHeight = 6960;
 constexpr std::int32_t TopicsWidth = 1260;
-// One topic's row: room for a caption that wraps on two lines.
-constexpr std::int32_t TopicRow = 450;
-constexpr std::int32_t TopicHeight = 420;
+// The lines each topic's caption takes in the column.
+constexpr std::int16_t TopicLines[HelpTopicCount] = {1, 3, 1, 1, 1, 1, 1, 2, 2, 3, 1, 2, 1};
 
 }  // namespace
 
@@ -102,20 +101,27 @@ void FrmHelp::PlaceTopics() {
     PictureTopic.Move(240, 840, TopicsWidth, 7260);
     ui::Frame& p = PictureTopic;
     const std::int32_t width = TopicsWidth - 60;
-    p.Place(LabelNoUse(0), 60, 60, width, 240);
-    p.Place(LineTopicA, 60, 330, width - 60, 15);
-    for (std::int16_t i = 0; i <= 2; ++i) p.Place(LabelHelpTopic(i), 60, 390 + TopicRow * i, width, TopicHeight);
+    // Each topic gets the lines its caption wraps to in the narrow column.
+    const auto rowHeight = [](std::int16_t topic) { return 210 * TopicLines[topic] + 60; };
+    std::int32_t top = 60;
+    p.Place(LabelNoUse(0), 60, top, width, 240);
+    p.Place(LineTopicA, 60, top + 285, width - 60, 15);
+    top += 360;
+    const auto placeTopic = [&](std::int16_t i, std::int32_t indent) {
+        p.Place(LabelHelpTopic(i), 60 + indent, top, width - indent, rowHeight(i));
+        top += rowHeight(i) + 60;
+    };
+    for (std::int16_t i = 0; i <= 2; ++i) placeTopic(i, 0);
     // The three ways to add an item stand under their caption.
-    p.Place(LabelNoUse(1), 60, 1770, width, 240);
-    for (std::int16_t i = 3; i <= 5; ++i) {
-        p.Place(LabelHelpTopic(i), 180, 2040 + TopicRow * (i - 3), width - 120, TopicHeight);
-    }
-    p.Place(LineTopicB, 60, 3450, width - 60, 15);
-    for (std::int16_t i = 6; i < HelpTopicCount; ++i) {
-        p.Place(LabelHelpTopic(i), 60, 3540 + TopicRow * (i - 6), width, TopicHeight);
-    }
-    p.Place(LineTopicC, 60, 6750, width - 60, 15);
-    p.Place(LabelHelpExit, 60, 6840, width, 300);
+    top += 30;
+    p.Place(LabelNoUse(1), 60, top, width, 240);
+    top += 285;
+    for (std::int16_t i = 3; i <= 5; ++i) placeTopic(i, 120);
+    p.Place(LineTopicB, 60, top + 30, width - 60, 15);
+    top += 105;
+    for (std::int16_t i = 6; i < HelpTopicCount; ++i) placeTopic(i, 0);
+    p.Place(LineTopicC, 60, top + 60, width - 60, 15);
+    p.Place(LabelHelpExit, 60, top + 180, width, 300);
 }
 
 void FrmHelp::PlaceStartPanel() {

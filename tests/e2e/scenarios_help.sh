@@ -118,11 +118,11 @@ help_drag_by() {
 
 help_at() { help_read && [ "$HELP_LEFT" -eq "$1" ] && [ "$HELP_TOP" -eq "$2" ]; }
 
-# Within three pixels of LEFT,TOP: the window manager's move follows the
-# pointer from where the press took it.
+# Within six pixels of LEFT,TOP: the window manager may take the move over
+# only after the drag's first small step.
 help_near() {
-  help_read && [ $((HELP_LEFT - $1)) -le 3 ] && [ $(($1 - HELP_LEFT)) -le 3 ] &&
-    [ $((HELP_TOP - $2)) -le 3 ] && [ $(($2 - HELP_TOP)) -le 3 ]
+  help_read && [ $((HELP_LEFT - $1)) -le 6 ] && [ $(($1 - HELP_LEFT)) -le 6 ] &&
+    [ $((HELP_TOP - $2)) -le 6 ] && [ $(($2 - HELP_TOP)) -le 6 ]
 }
 
 help_topics_drag_and_links() {
