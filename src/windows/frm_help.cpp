@@ -30,10 +30,8 @@ constexpr const wchar_t* FixedCaptions[] = {
     L"How About That !!",
 };
 
-// The panels' places on the form; their contents are placed from their
-// corners.
-constexpr std::int32_t PanelLeft = 1560;
-constexpr std::int32_t PanelTop = 1440;
+// The size of the right side's panels, and the width of the topic column;
+// the contents of each are placed from its corner.
 constexpr std::int32_t PanelWidth = 3600;
 constexpr std::int32_t PanelHeight = 6960;
 constexpr std::int32_t TopicsWidth = 1260;
@@ -77,7 +75,7 @@ FrmHelp::FrmHelp(Application& app)
 void FrmHelp::PlaceControls() {
     LabelHelpWelcome.Move(240, 240, TopicsWidth, 480);
     LabelHelpWelcome.SetFont(0, true);
-    LabelHelpHeading.Move(PanelLeft, 120, PanelWidth, 300);
+    LabelHelpHeading.Move(HelpPanelLeft, 120, PanelWidth, 300);
     LabelHelpHeading.SetFont(0, true);
     // A topic's caption is its heading too, where "&&" stands for "&".
     LabelHelpHeading.SetUseMnemonic(true);
@@ -87,7 +85,7 @@ void FrmHelp::PlaceControls() {
     }
     for (std::int16_t i = 0; i < LabelNoUse.Count(); ++i) LabelNoUse(i).SetCaption(FixedCaptions[i]);
 
-    TextHelp.Move(PanelLeft, 480, PanelWidth, HelpHeight - 480 - 240);
+    TextHelp.Move(HelpPanelLeft, HelpTextTop, PanelWidth, HelpHeight - HelpTextTop - 240);
     TextHelp.SetLocked(true);
     // Shown only once a topic with text is chosen.
     TextHelp.SetVisible(false);
@@ -125,7 +123,7 @@ void FrmHelp::PlaceTopics() {
 }
 
 void FrmHelp::PlaceStartPanel() {
-    PictureHelpMe.Move(PanelLeft, PanelTop, PanelWidth, PanelHeight);
+    PictureHelpMe.Move(HelpPanelLeft, HelpPanelTop, PanelWidth, PanelHeight);
     ui::Frame& p = PictureHelpMe;
     p.Place(ImageMe, 0, 0, 960, 960);
     ImageMe.SetAccessibleName(L"Help");
@@ -140,7 +138,7 @@ void FrmHelp::PlaceStartPanel() {
 }
 
 void FrmHelp::PlaceAboutPanel() {
-    FrameHelpAbout.Move(PanelLeft, PanelTop, PanelWidth, PanelHeight);
+    FrameHelpAbout.Move(HelpPanelLeft, HelpPanelTop, PanelWidth, PanelHeight);
     ui::Frame& p = FrameHelpAbout;
     p.Place(LabelNoUse(6), 0, 0, PanelWidth, 300);
     p.Place(LabelHelpNickName, 240, 300, PanelWidth - 240, 300);

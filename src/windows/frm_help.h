@@ -27,6 +27,11 @@ struct Application;
 
 inline constexpr std::int32_t HelpWidth = 5400;
 inline constexpr std::int32_t HelpHeight = 8652;
+// Where Load puts the right side: the text box, and the start and About
+// panels that take its place.
+inline constexpr std::int32_t HelpPanelLeft = 1560;
+inline constexpr std::int32_t HelpTextTop = 480;
+inline constexpr std::int32_t HelpPanelTop = 1440;
 // The topics; the last one, "About", shows a panel instead of text.
 inline constexpr std::int16_t HelpTopicCount = 13;
 inline constexpr std::int16_t HelpAboutTopic = 12;

@@ -35,12 +35,12 @@ void FrmHelp::FormLoad() {
 
     // Each load starts at the start panel, with no topic chosen and no
     // link underlined.
-    TextHelp.Move(1560, 480, TextHelp.Width(), TextHelp.Height());
+    TextHelp.Move(HelpPanelLeft, HelpTextTop, TextHelp.Width(), TextHelp.Height());
     TextHelp.SetText(L"");
     TextHelp.SetVisible(false);
-    FrameHelpAbout.Move(1560, 1440, FrameHelpAbout.Width(), FrameHelpAbout.Height());
+    FrameHelpAbout.Move(HelpPanelLeft, HelpPanelTop, FrameHelpAbout.Width(), FrameHelpAbout.Height());
     FrameHelpAbout.SetVisible(false);
-    PictureHelpMe.Move(1560, 1440, PictureHelpMe.Width(), PictureHelpMe.Height());
+    PictureHelpMe.Move(HelpPanelLeft, HelpPanelTop, PictureHelpMe.Width(), PictureHelpMe.Height());
     PictureHelpMe.SetVisible(true);
     for (const auto& topic : LabelHelpTopic) topic->SetFontUnderline(false);
     LabelHelpExit.SetFontUnderline(false);
