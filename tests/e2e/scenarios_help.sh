@@ -21,17 +21,6 @@ help_start_150() {
   help_seed 0 && e2e_start_quillstart
 }
 
-# Reads Help's window into E2E_CHILDREN and its place into HELP_LEFT,
-# HELP_TOP, HELP_RIGHT, HELP_BOTTOM; fails when it is not shown.
-help_read() {
-  wine "$E2E_TOOLS/children.exe" QuillstartBorderless --title Help >"$E2E_WORK/help.out" 2>/dev/null || return 1
-  E2E_CHILDREN=$(tr -d '\r' <"$E2E_WORK/help.out")
-  IFS=, read -r HELP_LEFT HELP_TOP HELP_RIGHT HELP_BOTTOM <<<"$(sed -n 's/^window=//p' <<<"$E2E_CHILDREN")"
-  [ -n "$HELP_BOTTOM" ]
-}
-
-help_gone() { ! help_read; }
-
 help_open() {
   bar_click PictureHelp || return 1
   qs_poll 10 help_read || e2e_fail "Help did not show after the bar's \"?\""
