@@ -54,17 +54,20 @@ void ControlWindow::DestroyChild() {
 }
 
 HFONT ControlWindow::ControlFont() const {
-    if (control_.FontSize() == 0 && !control_.FontBold()) return form_.Font();
+    if (control_.FontSize() == 0 && !control_.FontBold() && !control_.FontUnderline()) return form_.Font();
     const UINT dpi = form_.Dpi();
-    if (!font_ || fontDpi_ != dpi || fontSize_ != control_.FontSize() || fontBold_ != control_.FontBold()) {
+    if (!font_ || fontDpi_ != dpi || fontSize_ != control_.FontSize() || fontBold_ != control_.FontBold() ||
+        fontUnderline_ != control_.FontUnderline()) {
         LOGFONTW font = MessageFontAt(dpi);
         if (control_.FontSize() > 0) font.lfHeight = -::MulDiv(control_.FontSize(), static_cast<int>(dpi), 72);
         font.lfWeight = control_.FontBold() ? FW_BOLD : FW_NORMAL;
+        font.lfUnderline = control_.FontUnderline() ? TRUE : FALSE;
         font.lfQuality = CLEARTYPE_QUALITY;
         font_.Reset(::CreateFontIndirectW(&font));
         fontDpi_ = dpi;
         fontSize_ = control_.FontSize();
         fontBold_ = control_.FontBold();
+        fontUnderline_ = control_.FontUnderline();
         WindowDc dc(form_.Handle());
         SelectScope select(dc.Get(), font_.Get());
         TEXTMETRICW metrics{};

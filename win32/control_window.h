@@ -98,6 +98,7 @@ private:
     mutable UINT fontDpi_ = 0;
     mutable std::int16_t fontSize_ = 0;
     mutable bool fontBold_ = false;
+    mutable bool fontUnderline_ = false;
     mutable LONG fontLineHeight_ = 0;
 };
 

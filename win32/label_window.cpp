@@ -9,7 +9,8 @@
 namespace qs::win {
 
 void LabelWindow::Create() {
-    CreateChild(L"STATIC", SS_LEFT | SS_NOPREFIX | SS_NOTIFY | (label_.BorderStyle() == 1 ? WS_BORDER : 0));
+    CreateChild(L"STATIC", SS_LEFT | SS_NOTIFY | (label_.UseMnemonic() ? 0 : SS_NOPREFIX) |
+                               (label_.BorderStyle() == 1 ? WS_BORDER : 0));
     if (Handle() == nullptr) return;
     ::SetWindowTextW(Handle(), label_.Caption().c_str());
     HookWindow(Handle(), LabelProc, this);

@@ -4,6 +4,7 @@
 
 #include "form_window.h"
 #include "ui/form.h"
+#include "window_hook.h"
 
 namespace qs::win {
 
@@ -89,6 +90,21 @@ bool Win32Backend::MoveFocusByKey(const MSG& message) const {
     return true;
 }
 
+bool Win32Backend::PreviewKeyDown(const MSG& message) {
+    if (message.message != WM_KEYDOWN || message.hwnd == nullptr) return false;
+    const HWND root = ::GetAncestor(message.hwnd, GA_ROOT);
+    const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                    [root](const auto& entry) { return entry.second->Handle() == root; });
+    if (found == windows_.end() || !found->second->Model().KeyDown) return false;
+    std::int16_t shift = 0;
+    if ((::GetKeyState(VK_SHIFT) & 0x8000) != 0) shift |= 1;
+    if ((::GetKeyState(VK_CONTROL) & 0x8000) != 0) shift |= 2;
+    if ((::GetKeyState(VK_MENU) & 0x8000) != 0) shift |= 4;
+    ui::Form& form = found->second->Model();
+    const auto key = static_cast<std::int16_t>(message.wParam);
+    return AtEventBoundary([&form, key, shift]() -> LRESULT { return form.UserKeyDown(key, shift) == 0 ? 1 : 0; }) != 0;
+}
+
 void Win32Backend::RunBeforeInput(std::function<void()> work) { pendingWork_ = std::move(work); }
 
 std::function<void()> Win32Backend::PendingWorkWaker() {
@@ -110,6 +126,10 @@ bool Win32Backend::PumpOne(MSG& message) {
     if (got == 0 || got == -1) return false;
     if (pendingWork_ && !OnlyPaints(message.message)) RunPendingWork();
     if (MoveFocusByKey(message)) return true;
+    if (PreviewKeyDown(message)) {
+        ReleaseUnloaded();
+        return true;
+    }
     ::TranslateMessage(&message);
     ::DispatchMessageW(&message);
     ReleaseUnloaded();

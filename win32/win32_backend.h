@@ -40,6 +40,10 @@ public:
     // Tab and Shift+Tab move the focus among the controls of a form, as in
     // a dialog; true when the key was used so.
     bool MoveFocusByKey(const MSG& message) const;
+    // A key pressed in a form that asks to see keys first (Form::KeyDown)
+    // goes to that form before the control with the focus; true when the
+    // form kept the key, which then goes no further.
+    bool PreviewKeyDown(const MSG& message);
 
 private:
     // One message through the loop; false once the loop is to end.

@@ -46,7 +46,10 @@ void BugCheck(Application& app) {
 
 void RunAdditionalTask(Application& app, const std::wstring& name) {
     if (name == L"Help") {
-        if (app.HelpOpen) app.HelpOpen = false;
+        if (app.HelpOpen) {
+            app.HelpOpen = false;
+            app.frmHelp.Unload();
+        }
         app.MessageToShow = ActionProgramStartA(app, maker::OnlineHelpPage);
         if (!app.MessageToShow.empty()) MessageProcess(app);
     } else if (name == L"StartScreensaver") {

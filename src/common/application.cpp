@@ -4,7 +4,7 @@
 
 namespace qs {
 
-Application::Application(System& system) : sys(system), frmMain(*this), frmBrowse(*this), frmChoose(*this), frmQuick(*this), frmMessage(*this) {}
+Application::Application(System& system) : sys(system), frmMain(*this), frmBrowse(*this), frmChoose(*this), frmQuick(*this), frmHelp(*this), frmMessage(*this) {}
 
 Application::~Application() = default;
 
@@ -15,6 +15,7 @@ void Application::AttachBackend(ui::Backend* windows) {
     frmBrowse.SetBackend(windows);
     frmChoose.SetBackend(windows);
     frmQuick.SetBackend(windows);
+    frmHelp.SetBackend(windows);
     frmMessage.SetBackend(windows);
 }
 

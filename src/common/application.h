@@ -17,6 +17,7 @@
 #include "theme/theme_state.h"
 #include "windows/frm_browse.h"
 #include "windows/frm_choose.h"
+#include "windows/frm_help.h"
 #include "windows/frm_hid.h"
 #include "windows/frm_main.h"
 #include "windows/frm_quick.h"
@@ -86,6 +87,8 @@ struct Application {
     FrmBrowse frmBrowse;
     FrmChoose frmChoose;
     FrmQuick frmQuick;
+    // Loaded only while the user has Help open.
+    FrmHelp frmHelp;
     FrmMessage frmMessage;
 
     // The list load whose target tests are still running, if any.

@@ -63,6 +63,7 @@ void ThemeCreate(Application& app, std::int16_t& t) {
         ThemeApplyOnBrowse(app, t);
         ThemeApplyOnChoose(app, t);
         ThemeApplyOnQuick(app, t);
+        if (app.HelpOpen) ThemeApplyOnHelp(app, t);
         if (app.place.StartingUp) app.HelpOpen = false;
     } catch (const std::exception&) {
         ReportBug(app, L"ThemeCreate");

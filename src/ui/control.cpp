@@ -67,6 +67,12 @@ void Control::SetFont(std::int16_t size, bool bold) {
     Notify(Property::Font);
 }
 
+void Control::SetFontUnderline(bool underline) {
+    if (fontUnderline_ == underline) return;
+    fontUnderline_ = underline;
+    Notify(Property::Font);
+}
+
 void Control::SetFocus() { Notify(Property::Focus); }
 
 void Control::SetTabIndex(std::int16_t index) {

@@ -104,6 +104,9 @@ public:
     std::int16_t FontSize() const { return fontSize_; }
     bool FontBold() const { return fontBold_; }
     void SetFont(std::int16_t size, bool bold);
+    // A caption that acts as a link is underlined while the pointer is on it.
+    bool FontUnderline() const { return fontUnderline_; }
+    void SetFontUnderline(bool underline);
 
     // Asks for the keyboard focus; the peer moves it on a real window.
     void SetFocus();
@@ -140,6 +143,7 @@ private:
     Color foreColor_ = DefaultColor;
     std::int16_t fontSize_ = 0;
     bool fontBold_ = false;
+    bool fontUnderline_ = false;
     Control* container_ = nullptr;
     ControlPeer* peer_ = nullptr;
 };

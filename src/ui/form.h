@@ -103,6 +103,18 @@ public:
         if (MouseMove) MouseMove(button, shift, x, y);
     }
 
+    // A key pressed while the form's window or any of its controls holds
+    // the focus, seen by the form before the control: KeyCode is the
+    // key's virtual-key number, and a handler that sets it to 0 keeps the
+    // key from the control. Arrows, which are never typed characters, reach
+    // a handler only here.
+    std::function<void(std::int16_t& keyCode, std::int16_t shift)> KeyDown;
+    // Returns the key left after the form's handler.
+    std::int16_t UserKeyDown(std::int16_t keyCode, std::int16_t shift) {
+        if (KeyDown) KeyDown(keyCode, shift);
+        return keyCode;
+    }
+
     // The user moved the form (dragged it, or the system placed it).
     void UserMoved(std::int32_t left, std::int32_t top);
 

@@ -25,6 +25,11 @@ public:
     std::int16_t BorderStyle() const { return borderStyle_; }
     void SetBorderStyle(std::int16_t style) { borderStyle_ = style; }
 
+    // A caption that shows "&&" as one "&", as a caption given as a menu's
+    // is written. Set before the form loads.
+    bool UseMnemonic() const { return useMnemonic_; }
+    void SetUseMnemonic(bool use) { useMnemonic_ = use; }
+
     std::function<void()> Click;
     std::function<void(std::int16_t button, std::int16_t shift, std::int32_t x, std::int32_t y)> MouseMove;
 
@@ -39,6 +44,7 @@ public:
 private:
     std::wstring caption_;
     std::int16_t borderStyle_ = 0;
+    bool useMnemonic_ = false;
 };
 
 }  // namespace qs::ui

@@ -71,7 +71,12 @@ void FrmMain::CloseOpenPane() {
 void FrmMain::PictureHelpClick() {
     PictureNo.SetFocus();
     app_.HelpOpen = !app_.HelpOpen;
-    if (app_.HelpOpen) CloseOpenPane();
+    if (app_.HelpOpen) {
+        CloseOpenPane();
+        app_.frmHelp.Show();
+    } else {
+        app_.frmHelp.Unload();
+    }
 }
 
 void FrmMain::PictureShowQuickClick() {

@@ -346,3 +346,21 @@ e2e_run_all() {
   E2E_PASSED=$passed
   E2E_FAILED=$failed
 }
+
+# Saves one part of the screen, in screen pixels from LEFT,TOP to
+# RIGHT,BOTTOM. Usage: e2e_screenshot_area LEFT TOP RIGHT BOTTOM LABEL
+e2e_screenshot_area() {
+  import -window root -crop "$(($3 - $1))x$(($4 - $2))+$1+$2" +repage "$E2E_ARTIFACTS/$E2E_SHOT_PREFIX-$5.png" \
+    >/dev/null 2>&1 || true
+}
+
+# Reads Help's window into E2E_CHILDREN and its place into HELP_LEFT,
+# HELP_TOP, HELP_RIGHT, HELP_BOTTOM; fails when it is not shown.
+help_read() {
+  wine "$E2E_TOOLS/children.exe" QuillstartBorderless --title Help >"$E2E_WORK/help.out" 2>/dev/null || return 1
+  E2E_CHILDREN=$(tr -d '\r' <"$E2E_WORK/help.out")
+  IFS=, read -r HELP_LEFT HELP_TOP HELP_RIGHT HELP_BOTTOM <<<"$(sed -n 's/^window=//p' <<<"$E2E_CHILDREN")"
+  [ -n "$HELP_BOTTOM" ]
+}
+
+help_gone() { ! help_read; }

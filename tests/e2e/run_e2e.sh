@@ -67,6 +67,8 @@ source tests/e2e/scenarios_prefs.sh
 source tests/e2e/scenarios_quick.sh
 # shellcheck source=scenarios_pointer.sh
 source tests/e2e/scenarios_pointer.sh
+# shellcheck source=scenarios_help.sh
+source tests/e2e/scenarios_help.sh
 
 finish() {
   qs_stop_wine
