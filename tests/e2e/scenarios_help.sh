@@ -94,25 +94,16 @@ help_shot() {
 }
 
 # Drags Help by its bare left edge by (DX, DY) pixels, with the small steps a
-# hand makes, and ends the window manager's move with a click in place; the
-# pointer then rests on the surface a moment, which fixes the place for the
-# run.
+# hand makes; the pointer then moves on the surface a moment, which fixes the
+# place for the run.
 help_drag_by() {
   local x=$((HELP_LEFT + 6)) y=$((HELP_TOP + 200))
   xdotool mousemove "$x" "$y" mousedown 1 sleep 0.2 mousemove "$((x + 4))" "$((y + 3))" sleep 0.2 \
     mousemove "$((x + $1 / 2))" "$((y + $2 / 2))" sleep 0.2 mousemove "$((x + $1))" "$((y + $2))" sleep 0.2 mouseup 1
-  sleep 0.3
-  xdotool click 1 sleep 0.3 mousemove_relative 2 0 sleep 0.3 mousemove_relative -- -2 0
+  xdotool sleep 0.3 mousemove_relative 2 0 sleep 0.3 mousemove_relative -- -2 0
 }
 
 help_at() { help_read && [ "$HELP_LEFT" -eq "$1" ] && [ "$HELP_TOP" -eq "$2" ]; }
-
-# Within six pixels of LEFT,TOP: the window manager may take the move over
-# only after the drag's first small step.
-help_near() {
-  help_read && [ $((HELP_LEFT - $1)) -le 6 ] && [ $(($1 - HELP_LEFT)) -le 6 ] &&
-    [ $((HELP_TOP - $2)) -le 6 ] && [ $(($2 - HELP_TOP)) -le 6 ]
-}
 
 help_topics_drag_and_links() {
   help_open || return 1
@@ -132,7 +123,7 @@ help_topics_drag_and_links() {
   help_read || return 1
   local left=$HELP_LEFT top=$HELP_TOP
   help_drag_by 120 -90
-  qs_poll 5 help_near "$((left + 120))" "$((top - 90))" ||
+  qs_poll 5 help_at "$((left + 120))" "$((top - 90))" ||
     e2e_fail "the drag left Help at $HELP_LEFT,$HELP_TOP, expected $((left + 120)),$((top - 90))" || return 1
   left=$HELP_LEFT
   top=$HELP_TOP
