@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "color_ref.h"
+#include "common/startup_marks.h"
 #include "dialog_look.h"
 #include "dpi.h"
 #include "form_window.h"
@@ -37,6 +38,7 @@ void ControlWindow::CreateChild(const wchar_t* windowClass, DWORD style, DWORD e
                                 ::GetModuleHandleW(nullptr), nullptr);
     styled.reset();
     if (window_ == nullptr) return;
+    marks::Mark("child", control_.Name());
     ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(ControlFont()), FALSE);
     if (!control_.ToolTipText().empty()) form_.SetToolTip(window_, control_.ToolTipText());
     WriteName();

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "common/startup_marks.h"
 #include "dpi.h"
 #include "res/resource_ids.h"
 #include "styled_controls.h"
@@ -83,6 +84,7 @@ FormWindow::FormWindow(HINSTANCE instance, ui::Form& form) : form_(form) {
     form_.AttachPeer(this);
     // A new window is not topmost.
     if (form_.TopMost()) ApplyTopMost();
+    marks::Mark("window", form_.Name());
     if (form_.Visible()) ApplyVisible();
 }
 
@@ -276,6 +278,7 @@ void FormWindow::ApplyVisible() {
         ::SetActiveWindow(activatedFrom_);
     }
     ::ShowWindow(Handle(), ShowCommand());
+    if (form_.Visible() && !firstShowingPosted_) marks::Mark("shown", form_.Name());
     // What only matters on screen (tips, drop targets) is made once the
     // window has been drawn, so the window shows without waiting for it.
     if (form_.Visible() && !shown_ && !firstShowingPosted_) {
@@ -354,6 +357,10 @@ void FormWindow::Paint() {
     UpdateFace();
     PaintScope paint(Handle());
     face_.PaintTo(paint.Get());
+    if (!painted_) {
+        painted_ = true;
+        marks::Mark("painted", form_.Name());
+    }
 }
 
 LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -129,6 +129,7 @@ private:
     std::map<HWND, std::wstring> waitingTips_;
     bool firstShowingPosted_ = false;
     bool shown_ = false;
+    bool painted_ = false;
     // True while the form's own geometry is written to the window.
     bool placing_ = false;
     bool detached_ = false;

@@ -58,6 +58,7 @@ private:
     // when no window procedure of theirs can still be on the stack.
     int modalDepth_ = 0;
     std::function<void()> pendingWork_;
+    bool keyTaken_ = false;
 };
 
 }  // namespace qs::win

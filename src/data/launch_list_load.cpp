@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "common/application.h"
+#include "common/startup_marks.h"
 #include "data/launch_list.h"
 #include "data/list_file_read.h"
 #include "data/list_files.h"
@@ -166,6 +167,7 @@ void LaunchListSettle(Application& app) {
     }
     // The QuickLauncher loaded before these lists were whole.
     if (app.frmQuick.IsLoaded()) app.frmQuick.ShowGroupsWithItems();
+    marks::Mark("lists settled");
 }
 
 }  // namespace qs

@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "common/application.h"
+#include "common/startup_marks.h"
 
 namespace qs {
 
@@ -36,6 +37,7 @@ void ListFileReads::Run() {
         }
         fileRead_.notify_all();
     }
+    marks::Mark("list files read");
     if (files_.empty()) {
         if (finished_) finished_();
         return;
@@ -49,7 +51,9 @@ void ListFileReads::TestUntakenFiles() {
         if (i >= files_.size()) return;
         if (Tested(files_[i]) && slots_[i].records) Test(i);
         // Whoever answers the last file tells the end.
-        if (filesLeft_.fetch_sub(1) == 1 && finished_) finished_();
+        if (filesLeft_.fetch_sub(1) != 1) continue;
+        marks::Mark("list targets tested");
+        if (finished_) finished_();
     }
 }
 
