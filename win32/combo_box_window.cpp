@@ -8,7 +8,6 @@
 namespace qs::win {
 
 void ComboBoxWindow::Create() {
-    if (!combo_.Shown() || Handle() != nullptr) return;
     CreateChild(L"COMBOBOX", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP);
     if (Handle() == nullptr) return;
     HookWindow(Handle(), ComboProc, this);
@@ -27,16 +26,7 @@ RECT ComboBoxWindow::PixelRect() const {
 }
 
 void ComboBoxWindow::OnChanged(ui::Property what) {
-    switch (what) {
-        case ui::Property::Visible:
-            if (combo_.Shown() && Handle() == nullptr) Create();
-            break;
-        case ui::Property::ListIndex:
-            if (Handle() != nullptr) WriteIndex();
-            break;
-        default:
-            break;
-    }
+    if (what == ui::Property::ListIndex && Handle() != nullptr) WriteIndex();
 }
 
 void ComboBoxWindow::ItemInserted(std::int32_t index) {

@@ -26,6 +26,26 @@ void ControlWindow::Detach() {
     window_ = nullptr;
 }
 
+bool ControlWindow::OnForm() const {
+    return control_.Shown() && control_.Left() < form_.Model().Width();
+}
+
+void ControlWindow::CreateWhenOnForm() {
+    // A window nobody can see yet costs the start its making: a hidden
+    // control, or one beyond the form's width, gets it when it shows.
+    if (MakesWindow() && !OnForm()) {
+        waitsToShow_ = true;
+        return;
+    }
+    Create();
+}
+
+void ControlWindow::CreateIfNowOnForm() {
+    if (!waitsToShow_ || detached_ || !OnForm()) return;
+    waitsToShow_ = false;
+    Create();
+}
+
 void ControlWindow::CreateChild(const wchar_t* windowClass, DWORD style, DWORD exStyle) {
     style |= WS_CHILD | WS_CLIPSIBLINGS;
     if (control_.Shown()) style |= WS_VISIBLE;
@@ -140,6 +160,13 @@ void ControlWindow::ApplyDpi() {
 
 void ControlWindow::Changed(ui::Property what) {
     if (detached_) return;
+    if (what == ui::Property::Visible || what == ui::Property::Geometry) CreateIfNowOnForm();
+    if (what == ui::Property::Focus && waitsToShow_ && control_.Shown()) {
+        // A box given the focus takes the keys even while the form's width
+        // leaves it out of sight, as it always has.
+        waitsToShow_ = false;
+        Create();
+    }
     switch (what) {
         case ui::Property::Geometry:
             ApplyGeometry();

@@ -57,8 +57,8 @@ void FormWindow::RegisterClasses(HINSTANCE instance) {
         windowClass.lpfnWndProc = WindowProc;
         windowClass.hInstance = instance;
         windowClass.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-        windowClass.hIcon = ProgramIcon(instance, SM_CXICON, SM_CYICON);
-        windowClass.hIconSm = ProgramIcon(instance, SM_CXSMICON, SM_CYSMICON);
+        // No icons here: reading them would delay the bar. Each window
+        // gets them once it has first been drawn.
         windowClass.lpszClassName = name;
         ::RegisterClassExW(&windowClass);
     }
@@ -109,7 +109,7 @@ void FormWindow::CreateControls() {
     });
     // A new child window goes beneath the ones made before it, and Tab
     // follows that order: made in tab order, the windows need no moving.
-    for (ControlWindow* control : tabOrder_) control->Create();
+    for (ControlWindow* control : tabOrder_) control->CreateWhenOnForm();
     PutFramesBeneath();
     created_ = true;
 }
@@ -204,6 +204,11 @@ void FormWindow::SetToolTip(HWND child, const std::wstring& text) {
 
 void FormWindow::FirstShown() {
     shown_ = true;
+    const HINSTANCE instance = ::GetModuleHandleW(nullptr);
+    ::SendMessageW(Handle(), WM_SETICON, ICON_BIG,
+                   reinterpret_cast<LPARAM>(ProgramIcon(instance, SM_CXICON, SM_CYICON)));
+    ::SendMessageW(Handle(), WM_SETICON, ICON_SMALL,
+                   reinterpret_cast<LPARAM>(ProgramIcon(instance, SM_CXSMICON, SM_CYSMICON)));
     std::map<HWND, std::wstring> waiting;
     waiting.swap(waitingTips_);
     for (const auto& [child, text] : waiting) {

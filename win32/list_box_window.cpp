@@ -3,23 +3,13 @@
 namespace qs::win {
 
 void ListBoxWindow::Create() {
-    if (!list_.Shown() || Handle() != nullptr) return;
     CreateChild(L"LISTBOX", WS_VSCROLL | WS_TABSTOP | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT, WS_EX_CLIENTEDGE);
     if (Handle() == nullptr) return;
     WriteItems();
 }
 
 void ListBoxWindow::OnChanged(ui::Property what) {
-    switch (what) {
-        case ui::Property::Visible:
-            if (list_.Shown() && Handle() == nullptr) Create();
-            break;
-        case ui::Property::ListIndex:
-            if (Handle() != nullptr) WriteIndex();
-            break;
-        default:
-            break;
-    }
+    if (what == ui::Property::ListIndex && Handle() != nullptr) WriteIndex();
 }
 
 void ListBoxWindow::ItemInserted(std::int32_t index) {

@@ -4,6 +4,7 @@
 
 #include "common/startup_marks.h"
 #include "form_window.h"
+#include "window_hook.h"
 #include "ui/form.h"
 
 namespace qs::win {
@@ -43,6 +44,7 @@ bool OnlyPaints(UINT message) {
 Win32Backend::Win32Backend(HINSTANCE instance) : instance_(instance) { FormWindow::RegisterClasses(instance); }
 
 Win32Backend::~Win32Backend() {
+    if (idleTimer_ != 0) ::KillTimer(nullptr, idleTimer_);
     windows_.clear();
     unloaded_.clear();
 }
@@ -100,6 +102,34 @@ std::function<void()> Win32Backend::PendingWorkWaker() {
     return [thread = ::GetCurrentThreadId()] { ::PostThreadMessageW(thread, WM_NULL, 0, 0); };
 }
 
+void Win32Backend::RunWhenIdle(std::function<void()> work) {
+    idleWork_.push_back(std::move(work));
+    if (idleTimer_ == 0) idleTimer_ = ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, nullptr);
+    // Without a timer the work runs now rather than never.
+    if (idleTimer_ == 0) {
+        std::vector<std::function<void()>> now;
+        now.swap(idleWork_);
+        for (const auto& step : now) step();
+    }
+}
+
+bool Win32Backend::RunIdleWork(const MSG& message) {
+    if (message.message != WM_TIMER || message.hwnd != nullptr || idleTimer_ == 0 || message.wParam != idleTimer_) {
+        return false;
+    }
+    ::KillTimer(nullptr, idleTimer_);
+    idleTimer_ = 0;
+    std::vector<std::function<void()>> work;
+    work.swap(idleWork_);
+    for (const auto& step : work) {
+        AtEventBoundary([&step] {
+            step();
+            return LRESULT{0};
+        });
+    }
+    return true;
+}
+
 void Win32Backend::RunPendingWork() {
     // What is on screen is drawn before the wait, whatever came first.
     for (const auto& entry : windows_) {
@@ -120,6 +150,7 @@ bool Win32Backend::PumpOne(MSG& message) {
         marks::Mark("key taken");
         marks::Write();
     }
+    if (RunIdleWork(message)) return true;
     if (MoveFocusByKey(message)) return true;
     ::TranslateMessage(&message);
     ::DispatchMessageW(&message);

@@ -19,6 +19,11 @@ ListFileReads::ListFileReads(const Application& app, std::function<void()> finis
       slots_(files_.size()),
       finished_(std::move(finished)),
       filesLeft_(files_.size()) {
+    // Without a list file there is nothing to wait for on another thread.
+    if (files_.empty()) {
+        Run();
+        return;
+    }
     try {
         thread_ = std::thread([this] { Run(); });
     } catch (const std::system_error&) {

@@ -28,9 +28,10 @@ void Main(Application& app) {
     app.ProgramFolder = AtStartProgramFile(app);
     marks::Mark("Main copy, screen and file checks");
 
-    const DriveInfo drive = app.sys.GetDrive(app.sys.GetDriveName(app.ProgramFolder));
-    place.ProgramDriveLetter = drive.letter;
-    place.ProgramDriveLetterUpper = UCase(drive.letter);
+    place.ProgramDriveName = app.sys.GetDriveName(app.ProgramFolder);
+    place.ProgramDrive = app.sys.GetDrive(place.ProgramDriveName);
+    place.ProgramDriveLetter = place.ProgramDrive.letter;
+    place.ProgramDriveLetterUpper = UCase(place.ProgramDrive.letter);
 
     std::wstring folderUpper = UCase(app.ProgramFolder);
     app.MessageToShow = AtStartSysPath(app, folderUpper);

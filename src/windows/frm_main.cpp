@@ -49,6 +49,9 @@ FrmMain::FrmMain(Application& app)
       app_(app) {
     SetCaption(L"Quillstart");
     Move(0, 0, MainWidthCommand, MainHeight);
+    // The window is made at the first showing, once the theme has given the
+    // bar its look: a picture the theme makes a strip never gets a window.
+    SetWindowWaitsForShow(true);
     PlaceControls();
     WireEvents();
 }
