@@ -75,20 +75,17 @@ std::unique_ptr<ListFileReads> ReadsForLoad(Application& app) {
     return std::make_unique<ListFileReads>(app, windows != nullptr ? windows->PendingWorkWaker() : nullptr);
 }
 
-// Takes file `i` of the load as read. Email and Web URL records join the
-// lists at once; the others wait for their answers. A failure of the
+// Takes file `i` of the load as read: its records wait to join the lists
+// until input may come, the File, Folder and Program records for their
+// answers too, since nothing on screen shows them before. A failure of the
 // reading is reported now, in the load's order, and the records read
-// before it are added with the others.
+// before it join with the others.
 void TakeFile(Application& app, PendingListLoad& load, std::size_t i) {
     const ListFileOfLoad& file = load.reads->Files()[i];
     try {
         const std::optional<ReadRecords>& records = load.reads->Records(i);
         if (!records) return;
-        if (file.group > 2) {
-            AddComputerSide(app, file.group, *records, nullptr);
-        } else {
-            load.waiting.push_back(i);
-        }
+        load.waiting.push_back(i);
         RaiseFailure(records->failure);
     } catch (const std::exception&) {
         ReportBug(app, LoadRoutine(file.flashSide));
@@ -154,6 +151,11 @@ void LaunchListSettle(Application& app) {
         const ListFileOfLoad& file = reads.Files()[i];
         const ReadRecords& records = *reads.Records(i);
         try {
+            if (file.group > 2) {
+                // Email and Web URL are not tested.
+                AddComputerSide(app, file.group, records, nullptr);
+                continue;
+            }
             const std::vector<bool>& passes = reads.Passes(i);
             if (file.flashSide) {
                 AddFlashSide(app, file.group, records, passes);

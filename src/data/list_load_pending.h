@@ -12,7 +12,7 @@ namespace qs {
 
 struct PendingListLoad {
     std::unique_ptr<ListFileReads> reads;
-    // The File, Folder and Program files read, by their place in the load.
+    // The files read, by their place in the load.
     std::vector<std::size_t> waiting;
 };
 
