@@ -1,12 +1,13 @@
 #pragma once
 // The files of one list load, read and tested on one thread of their own,
-// so that the windows can be made and shown meanwhile. The thread reads the
-// files in the load's order, then asks the system, in one bulk call per
-// file, whether the File, Folder and Program targets are there. The load
-// takes each file as soon as it is read, in its own order, and the answers
-// once they are all in; one thread, because the window thread needs the
-// other core of a small machine while it makes the windows. A thread that
-// waits for the answers tests the files not yet taken meanwhile.
+// so that the windows can be made and shown meanwhile. The thread takes the
+// files in the load's order and reads them, then asks the system, in one
+// bulk call per file, whether the File, Folder and Program targets are
+// there. The load takes each file as soon as it is read, in its own order,
+// and the answers once they are all in; one thread, because the window
+// thread needs the other core of a small machine while it makes the
+// windows. A thread that waits for a file reads the files not yet taken
+// meanwhile, and one that waits for the answers tests them.
 #include <atomic>
 #include <condition_variable>
 #include <cstddef>
@@ -53,6 +54,9 @@ private:
     };
 
     void Run();
+    // Takes the next file not yet taken and reads it; false when none is left.
+    bool ReadUntakenFile();
+    void WaitUntilAllRead();
     void Read(std::size_t i);
     void Test(std::size_t i);
     // Tests file after file not yet taken by another thread, until none is left.
@@ -64,7 +68,10 @@ private:
     std::function<void()> finished_;
     std::mutex mutex_;
     std::condition_variable fileRead_;
+    // Which files are read, and how many; the next file to be taken for reading.
+    std::vector<bool> read_;
     std::size_t filesRead_ = 0;
+    std::atomic<std::size_t> nextRead_ = 0;
     // The next file to be taken for testing, and the files not yet answered.
     std::atomic<std::size_t> nextFile_ = 0;
     std::atomic<std::size_t> filesLeft_;

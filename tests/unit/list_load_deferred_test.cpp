@@ -180,6 +180,54 @@ TEST(ListFileReads, TheThreadThatWaitsTestsFilesAlongsideTheReadingThread) {
 // Nothing on screen shows a list before the first input, so no group is
 // filled before it: the tested ones wait for their answers, and Email and
 // Web URL join with them.
+// A system whose whole-file reads each wait, up to two seconds, for a
+// second read to be under way at the same time, and note the threads that
+// call, once the test opens the meeting.
+struct MeetingReadSystem : FakeSystem {
+    std::mutex mutex;
+    std::condition_variable met;
+    bool open = false;
+    int inside = 0;
+    bool twoAtOnce = false;
+    std::set<std::thread::id> callers;
+    std::wstring ReadTextFile(const std::wstring& path) override {
+        {
+            std::unique_lock<std::mutex> lock(mutex);
+            if (open) {
+                callers.insert(std::this_thread::get_id());
+                if (++inside == 2) twoAtOnce = true;
+                met.notify_all();
+                met.wait_for(lock, std::chrono::seconds(2), [this] { return twoAtOnce; });
+                --inside;
+            }
+        }
+        return FakeSystem::ReadTextFile(path);
+    }
+};
+
+TEST(ListFileReads, AThreadWaitingForAFileReadsFilesNotYetTakenAlongsideTheReadingThread) {
+    MeetingReadSystem sys;
+    Application app(sys);
+    SeedPlanAndWork(sys, app);
+    sys.PutFile(app.place.FileListProg, ListFileBytes({{"edit", "C:\\edit.exe"}}));
+    StoreListCounts(app.settings, {.file = 0, .folder = 0, .program = 0});
+    {
+        const std::lock_guard<std::mutex> lock(sys.mutex);
+        sys.open = true;
+    }
+    ListFileReads reads(app, {});
+    const std::optional<ReadRecords>& program = reads.Records(2);
+    ASSERT_TRUE(program.has_value());
+    ASSERT_EQ(program->names.size(), 1u);
+    EXPECT_EQ(std::wstring(program->names[0].Text()), L"edit");
+    EXPECT_EQ(std::wstring(reads.Records(0)->names[0].Text()), L"plan");
+    EXPECT_EQ(std::wstring(reads.Records(1)->names[0].Text()), L"work");
+    reads.Wait();
+    EXPECT_TRUE(sys.twoAtOnce);
+    EXPECT_EQ(sys.callers.size(), 2u);
+    EXPECT_EQ(sys.callers.count(std::this_thread::get_id()), 1u);
+}
+
 TEST(DeferredListLoad, EveryGroupJoinsTheListsAtTheFirstInputTheTestedOnesWithTheirAnswers) {
     TestApp t;
     SeedMixedFlashRun(t);
