@@ -166,6 +166,11 @@ ControlWindow* FormWindow::ControlOfWindow(HWND child) const {
     return nullptr;
 }
 
+const ui::Control* FormWindow::ControlAt(HWND child) const {
+    const ControlWindow* control = ControlOfWindow(child);
+    return control != nullptr ? &control->Model() : nullptr;
+}
+
 LONG FormWindow::ClientHeight() const {
     RECT client{};
     ::GetClientRect(Handle(), &client);

@@ -70,6 +70,8 @@ public:
     void ControlFocused(HWND child);
     // The focus goes to the first control in tab order that may take it.
     void FocusFirstControl();
+    // The control whose window, or a part of it, this is; null for none.
+    const ui::Control* ControlAt(HWND child) const;
 
 private:
     static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

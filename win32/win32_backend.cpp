@@ -130,6 +130,19 @@ bool Win32Backend::RunIdleWork(const MSG& message) {
     return true;
 }
 
+bool Win32Backend::PassesInputWork(const MSG& message) const {
+    if (message.message == WM_TIMER) return true;
+    if (message.message != WM_KEYDOWN && message.message != WM_KEYUP && message.message != WM_CHAR) return false;
+    if (message.hwnd == nullptr) return false;
+    const HWND form = ::GetAncestor(message.hwnd, GA_ROOT);
+    for (const auto& entry : windows_) {
+        if (entry.second->Handle() != form) continue;
+        const ui::Control* control = entry.second->ControlAt(message.hwnd);
+        return control != nullptr && control->KeysPassInputWork();
+    }
+    return false;
+}
+
 void Win32Backend::RunPendingWork() {
     // What is on screen is drawn before the wait, whatever came first.
     for (const auto& entry : windows_) {
@@ -143,7 +156,7 @@ void Win32Backend::RunPendingWork() {
 bool Win32Backend::PumpOne(MSG& message) {
     const BOOL got = ::GetMessageW(&message, nullptr, 0, 0);
     if (got == 0 || got == -1) return false;
-    if (pendingWork_ && !OnlyPaints(message.message)) RunPendingWork();
+    if (pendingWork_ && !OnlyPaints(message.message) && !PassesInputWork(message)) RunPendingWork();
     if (!keyTaken_ && IsKey(message.message)) {
         // The first key taken ends the start-up that the marks measure.
         keyTaken_ = true;

@@ -51,6 +51,9 @@ private:
     void ReleaseUnloaded();
     // Draws the visible windows, then runs the work input waits for.
     void RunPendingWork();
+    // True for a message that may go before that work: a timer's, or a key
+    // typed into a control that waits itself for what it reads.
+    bool PassesInputWork(const MSG& message) const;
     // Runs the work that waited for an idle moment; true when the message
     // was the timer that tells of one.
     bool RunIdleWork(const MSG& message);

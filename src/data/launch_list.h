@@ -41,6 +41,9 @@ void LaunchListLoad(Application& app);
 // the Email and Web URL records, file by file in the load's order; does
 // nothing when no load waits.
 void LaunchListSettle(Application& app);
+// The same for one group only, waiting for its own files' answers and no
+// others: what auto-fill of that group needs. The other groups join later.
+void LaunchListSettleGroup(Application& app, std::int16_t group);
 
 // The list parts of the save at exit, in the order the exit runs them:
 // on a flash drive, count the flash-side lists; (the flash drive's record is

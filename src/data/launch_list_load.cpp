@@ -86,9 +86,36 @@ void TakeFile(Application& app, PendingListLoad& load, std::size_t i) {
         const std::optional<ReadRecords>& records = load.reads->Records(i);
         if (!records) return;
         load.waiting.push_back(i);
+        load.added.push_back(false);
         RaiseFailure(records->failure);
     } catch (const std::exception&) {
         ReportBug(app, LoadRoutine(file.flashSide));
+    }
+}
+
+// Adds waiting file `k` of the load to the lists: the File, Folder and
+// Program records that passed their tests, every Email and Web URL record.
+void AddWaitingFile(Application& app, PendingListLoad& load, std::size_t k) {
+    load.added[k] = true;
+    ListFileReads& reads = *load.reads;
+    const std::size_t i = load.waiting[k];
+    const ListFileOfLoad& file = reads.Files()[i];
+    const ReadRecords& records = *reads.Records(i);
+    try {
+        if (file.group > 2) {
+            // Email and Web URL are not tested.
+            AddComputerSide(app, file.group, records, nullptr);
+            return;
+        }
+        const std::vector<bool>& passes = reads.Passes(i);
+        if (file.flashSide) {
+            AddFlashSide(app, file.group, records, passes);
+        } else {
+            AddComputerSide(app, file.group, records, &passes);
+        }
+    } catch (const std::exception&) {
+        // One report per file: a file whose reading failed has had its.
+        if (!records.failure) ReportBug(app, LoadRoutine(file.flashSide));
     }
 }
 
@@ -145,31 +172,30 @@ void LaunchListLoad(Application& app) {
 void LaunchListSettle(Application& app) {
     if (!app.pendingListLoad) return;
     const std::unique_ptr<PendingListLoad> load = std::move(app.pendingListLoad);
-    ListFileReads& reads = *load->reads;
-    reads.Wait();
-    for (const std::size_t i : load->waiting) {
-        const ListFileOfLoad& file = reads.Files()[i];
-        const ReadRecords& records = *reads.Records(i);
-        try {
-            if (file.group > 2) {
-                // Email and Web URL are not tested.
-                AddComputerSide(app, file.group, records, nullptr);
-                continue;
-            }
-            const std::vector<bool>& passes = reads.Passes(i);
-            if (file.flashSide) {
-                AddFlashSide(app, file.group, records, passes);
-            } else {
-                AddComputerSide(app, file.group, records, &passes);
-            }
-        } catch (const std::exception&) {
-            // One report per file: a file whose reading failed has had its.
-            if (!records.failure) ReportBug(app, LoadRoutine(file.flashSide));
-        }
+    load->reads->Wait();
+    for (std::size_t k = 0; k < load->waiting.size(); ++k) {
+        if (!load->added[k]) AddWaitingFile(app, *load, k);
     }
     // The QuickLauncher loaded before these lists were whole.
     if (app.frmQuick.IsLoaded()) app.frmQuick.ShowGroupsWithItems();
     marks::Mark("lists settled");
+}
+
+void LaunchListSettleGroup(Application& app, std::int16_t group) {
+    if (!app.pendingListLoad) return;
+    // Held here while the group's files join, so that a report shown
+    // meanwhile, whose loop may settle the rest, finds no load to settle.
+    std::unique_ptr<PendingListLoad> load = std::move(app.pendingListLoad);
+    for (std::size_t k = 0; k < load->waiting.size(); ++k) {
+        const std::size_t i = load->waiting[k];
+        if (load->added[k] || load->reads->Files()[i].group != group) continue;
+        if (group < 3) load->reads->WaitFor(i);
+        AddWaitingFile(app, *load, k);
+    }
+    app.pendingListLoad = std::move(load);
+    // The other groups still join before any other input.
+    ui::Backend* const windows = app.backend;
+    if (windows != nullptr) windows->RunBeforeInput([&app] { LaunchListSettle(app); });
 }
 
 }  // namespace qs

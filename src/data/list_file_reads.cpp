@@ -1,5 +1,6 @@
 #include "data/list_file_reads.h"
 
+#include <stdexcept>
 #include <system_error>
 
 #include "common/application.h"
@@ -19,6 +20,8 @@ ListFileReads::ListFileReads(const Application& app, std::function<void()> finis
       slots_(files_.size()),
       finished_(std::move(finished)),
       read_(files_.size(), false),
+      taken_(files_.size(), false),
+      answered_(files_.size(), false),
       filesLeft_(files_.size()) {
     // Without a list file there is nothing to wait for on another thread.
     if (files_.empty()) {
@@ -65,15 +68,51 @@ void ListFileReads::WaitUntilAllRead() {
 }
 
 void ListFileReads::TestUntakenFiles() {
-    for (;;) {
-        const std::size_t i = nextFile_.fetch_add(1);
-        if (i >= files_.size()) return;
-        if (Tested(files_[i]) && slots_[i].records) Test(i);
-        // Whoever answers the last file tells the end.
-        if (filesLeft_.fetch_sub(1) != 1) continue;
+    while (TestUntakenFile()) {
+    }
+}
+
+bool ListFileReads::TestUntakenFile() {
+    for (std::size_t i = 0; i < files_.size(); ++i) {
+        if (!Take(i)) continue;
+        TestTaken(i);
+        return true;
+    }
+    return false;
+}
+
+bool ListFileReads::Take(std::size_t i) {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    if (taken_[i]) return false;
+    taken_[i] = true;
+    return true;
+}
+
+void ListFileReads::TestTaken(std::size_t i) {
+    if (Tested(files_[i]) && slots_[i].records) Test(i);
+    {
+        const std::lock_guard<std::mutex> lock(mutex_);
+        answered_[i] = true;
+    }
+    fileAnswered_.notify_all();
+    // Whoever answers the last file tells the end.
+    if (filesLeft_.fetch_sub(1) == 1) {
         marks::Mark("list targets tested");
         if (finished_) finished_();
     }
+}
+
+void ListFileReads::WaitFor(std::size_t i) {
+    if (i >= files_.size()) throw std::out_of_range("ListFileReads::WaitFor");
+    // The files are read first, as the testing needs them; then the waiting
+    // thread tests this file itself unless another thread has taken it,
+    // and waits for no other file's answers.
+    while (ReadUntakenFile()) {
+    }
+    WaitUntilAllRead();
+    if (Take(i)) TestTaken(i);
+    std::unique_lock<std::mutex> lock(mutex_);
+    fileAnswered_.wait(lock, [this, i] { return answered_[i]; });
 }
 
 void ListFileReads::Read(std::size_t i) {

@@ -41,6 +41,9 @@ public:
     const std::optional<ReadRecords>& Records(std::size_t i);
     // Waits until every answer is in, testing files meanwhile.
     void Wait();
+    // Waits until the answers for file `i` are in, testing it here when no
+    // thread has taken it yet; the answers of other files are not awaited.
+    void WaitFor(std::size_t i);
     // After Wait: the answers for the targets of file `i`, a File, Folder or
     // Program file that was read; throws what the system threw.
     const std::vector<bool>& Passes(std::size_t i) const;
@@ -61,6 +64,13 @@ private:
     void Test(std::size_t i);
     // Tests file after file not yet taken by another thread, until none is left.
     void TestUntakenFiles();
+    // Takes the first file not yet taken for testing and tests it; false
+    // when none is left.
+    bool TestUntakenFile();
+    // Takes file `i` for testing; false when another thread has.
+    bool Take(std::size_t i);
+    // Tests a file taken and tells its answers, and the end after the last.
+    void TestTaken(std::size_t i);
 
     const Application& app_;
     std::vector<ListFileOfLoad> files_;
@@ -72,8 +82,11 @@ private:
     std::vector<bool> read_;
     std::size_t filesRead_ = 0;
     std::atomic<std::size_t> nextRead_ = 0;
-    // The next file to be taken for testing, and the files not yet answered.
-    std::atomic<std::size_t> nextFile_ = 0;
+    // Which files are taken for testing and which have their answers, and
+    // how many are not yet answered.
+    std::vector<bool> taken_;
+    std::vector<bool> answered_;
+    std::condition_variable fileAnswered_;
     std::atomic<std::size_t> filesLeft_;
     std::thread thread_;
 };

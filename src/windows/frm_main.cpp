@@ -67,6 +67,8 @@ void FrmMain::PlaceControls() {
     PictureBackMain.Move(BackMainLeft, 0, 5640, 372);
     TextMain.Move(BackMainLeft + 120, 0, 1812, 372);
     TextMain.SetAcceptsTextDrop(true);
+    // The first keys of a start with full lists are taken at once.
+    TextMain.SetKeysPassInputWork(true);
     static const wchar_t* const menuTips[] = {
         L"Add Items To Launch List",
         L"Browse To Open File | Run Program",
