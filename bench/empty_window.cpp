@@ -8,6 +8,10 @@
 // 424 x 23 pixels at 96 DPI), titled "Empty Popup".
 #include <windows.h>
 
+#ifdef QUILL_STARTUP_MARKS
+#include "common/startup_marks.h"
+#endif
+
 namespace {
 
 #ifdef QS_EMPTY_POPUP
@@ -29,6 +33,17 @@ constexpr int kHeight = 60;
 #endif
 
 LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+#ifdef QUILL_STARTUP_MARKS
+    // The first paint ends the start-up measured: the marks are written then.
+    static bool painted = false;
+    if (message == WM_PAINT && !painted) {
+        painted = true;
+        const LRESULT result = DefWindowProcW(window, message, wParam, lParam);
+        qs::marks::Mark("painted");
+        qs::marks::Write();
+        return result;
+    }
+#endif
     if (message == WM_DESTROY) {
         PostQuitMessage(0);
         return 0;
@@ -39,6 +54,9 @@ LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int show) {
+#ifdef QUILL_STARTUP_MARKS
+    qs::marks::Mark("entry");
+#endif
     WNDCLASSEXW windowClass = {};
     windowClass.cbSize = sizeof(windowClass);
     windowClass.lpfnWndProc = WindowProc;
@@ -51,6 +69,9 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int show) {
                                   nullptr, nullptr, instance, nullptr);
     if (window == nullptr) return 1;
     ShowWindow(window, show);
+#ifdef QUILL_STARTUP_MARKS
+    qs::marks::Mark("shown");
+#endif
     UpdateWindow(window);
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {

@@ -6,6 +6,9 @@
 // With "ready" after the title it then types one character into the
 // window's first visible text box and waits until the box shows it: the time
 // until the program takes its first keystroke, and the working set then.
+// With the environment variable QUILL_MARKS_FILE set (a build with start-up
+// marks), the file it names is removed before each start and waited for
+// before the process is ended, so the program's marks are always written.
 // Usage: startwait <runs> <program file> <window title> [ready]
 // Prints "run <i>: <ms> ms, working set <MB> MB" for each run (with
 // "ready <ms> ms" when asked), then "median: <ms> ms", "ready: <ms> ms" and
@@ -136,7 +139,22 @@ double TimeToFirstKeystroke(HWND window, LARGE_INTEGER start, LARGE_INTEGER freq
     }
 }
 
+// The marks file of a build with start-up marks, or "".
+std::wstring MarksFile() {
+    wchar_t path[MAX_PATH] = {};
+    const DWORD n = GetEnvironmentVariableW(L"QUILL_MARKS_FILE", path, MAX_PATH);
+    return n > 0 && n < MAX_PATH ? std::wstring(path, n) : std::wstring();
+}
+
+// Waits up to ten seconds for the program to write its marks.
+void WaitForMarks(const std::wstring& marks) {
+    if (marks.empty()) return;
+    for (int i = 0; i < 10000 && GetFileAttributesW(marks.c_str()) == INVALID_FILE_ATTRIBUTES; ++i) Sleep(1);
+}
+
 Measured MeasureOnce(const std::wstring& program, const std::wstring& folder, const wchar_t* title, bool ready) {
+    const std::wstring marks = MarksFile();
+    if (!marks.empty()) DeleteFileW(marks.c_str());
     LARGE_INTEGER frequency;
     LARGE_INTEGER start;
     QueryPerformanceFrequency(&frequency);
@@ -148,11 +166,17 @@ Measured MeasureOnce(const std::wstring& program, const std::wstring& folder, co
         EnumWindows(Visit, reinterpret_cast<LPARAM>(&wanted));
         LARGE_INTEGER now;
         QueryPerformanceCounter(&now);
-        if (wanted.found && !ready) return {Seconds(start, now, frequency) * 1000.0, -1, process.WorkingSetMB()};
+        if (wanted.found && !ready) {
+            const Measured measured{Seconds(start, now, frequency) * 1000.0, -1, process.WorkingSetMB()};
+            WaitForMarks(marks);
+            return measured;
+        }
         if (wanted.found) {
             const double visible = Seconds(start, now, frequency) * 1000.0;
             const double taken = TimeToFirstKeystroke(wanted.window, start, frequency);
-            return {visible, taken, process.WorkingSetMB()};
+            const Measured measured{visible, taken, process.WorkingSetMB()};
+            WaitForMarks(marks);
+            return measured;
         }
         if (Seconds(start, now, frequency) > 30.0) return {};
         Sleep(1);

@@ -6,7 +6,6 @@
 namespace qs::win {
 
 void ComboBoxWindow::Create() {
-    if (!combo_.Shown() || Handle() != nullptr) return;
     CreateChild(L"COMBOBOX", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP);
     if (Handle() == nullptr) return;
     HookWindow(Handle(), ComboProc, this);

@@ -36,9 +36,6 @@ public:
     void OnCommand(WORD code) override;
     bool TakesFocus() const override { return Model().Shown() && Model().Enabled(); }
 
-protected:
-    void OnChanged(ui::Property what) override;
-
 private:
     ui::CommandButton& button_;
 };
@@ -68,6 +65,7 @@ public:
     TimerPeer(FormWindow& form, ui::Timer& timer, int id) : ControlWindow(form, timer, id), timer_(timer) {}
     ~TimerPeer() override;
     void Create() override { Arm(); }
+    bool MakesWindow() const override { return false; }
     void OnTimer() override { timer_.Fire(); }
 
 protected:

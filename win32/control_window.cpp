@@ -4,6 +4,7 @@
 #include <string>
 
 #include "color_ref.h"
+#include "common/startup_marks.h"
 #include "dialog_look.h"
 #include "dpi.h"
 #include "form_window.h"
@@ -25,6 +26,26 @@ void ControlWindow::Detach() {
     window_.Release();
 }
 
+bool ControlWindow::OnForm() const {
+    return control_.Shown() && control_.Left() < form_.Model().Width();
+}
+
+void ControlWindow::CreateWhenOnForm() {
+    // A window nobody can see yet costs the start its making: a hidden
+    // control, or one beyond the form's width, gets it when it shows.
+    if (MakesWindow() && !OnForm()) {
+        waitsToShow_ = true;
+        return;
+    }
+    Create();
+}
+
+void ControlWindow::CreateIfNowOnForm() {
+    if (!waitsToShow_ || detached_ || !OnForm()) return;
+    waitsToShow_ = false;
+    Create();
+}
+
 void ControlWindow::CreateChild(const wchar_t* windowClass, DWORD style, DWORD exStyle) {
     style |= WS_CHILD | WS_CLIPSIBLINGS;
     if (control_.Shown()) style |= WS_VISIBLE;
@@ -37,6 +58,7 @@ void ControlWindow::CreateChild(const wchar_t* windowClass, DWORD style, DWORD e
                                     r.bottom - r.top, form_.Handle(), menu, ::GetModuleHandleW(nullptr), nullptr));
     styled.reset();
     if (!window_) return;
+    marks::Mark("child", control_.Name());
     ::SendMessageW(window_.Get(), WM_SETFONT, reinterpret_cast<WPARAM>(ControlFont()), FALSE);
     if (!control_.ToolTipText().empty()) form_.SetToolTip(window_.Get(), control_.ToolTipText());
     WriteName();
@@ -141,6 +163,13 @@ void ControlWindow::ApplyDpi() {
 
 void ControlWindow::Changed(ui::Property what) {
     if (detached_) return;
+    if (what == ui::Property::Visible || what == ui::Property::Geometry) CreateIfNowOnForm();
+    if (what == ui::Property::Focus && waitsToShow_ && control_.Shown()) {
+        // A box given the focus takes the keys even while the form's width
+        // leaves it out of sight, as it always has.
+        waitsToShow_ = false;
+        Create();
+    }
     switch (what) {
         case ui::Property::Geometry:
             ApplyGeometry();

@@ -31,8 +31,13 @@ public:
     void Detach();
 
     // Creates the window if the control has one to show; called once, after
-    // every peer of the form exists.
+    // every peer of the form exists, or later, once the control shows.
     virtual void Create() = 0;
+    // Creates the window now when the control lies on the form, hidden by
+    // nothing and within the form's width; otherwise when it first does.
+    void CreateWhenOnForm();
+    // True while the window waits for the control to show on the form.
+    bool WaitsToShow() const { return waitsToShow_; }
     // A WM_COMMAND notification from the window.
     virtual void OnCommand(WORD) {}
     // A WM_TIMER with the control's id.
@@ -43,7 +48,10 @@ public:
     // The form's DPI or font changed.
     void ApplyDpi();
     // The form's size changed: the window takes its place again.
-    void Relayout() { ApplyGeometry(); }
+    void Relayout() {
+        CreateIfNowOnForm();
+        ApplyGeometry();
+    }
     // True for a window of the control's own that is not its main window
     // (a drop-down's list), which asks the form for its colours too.
     virtual bool OwnsPart(HWND) const { return false; }
@@ -72,6 +80,9 @@ protected:
     virtual HBRUSH DefaultBackground(HDC dc);
     // A brush of one colour, set as the text's background too.
     HBRUSH SolidBackground(HDC dc, ui::Color back);
+    // False for a peer with no window of its own to make (a timer): it is
+    // made at once, wherever its control lies.
+    virtual bool MakesWindow() const { return true; }
     // True for a window that shows no text of its own (a picture, a list):
     // its window text is the name screen readers give it.
     virtual bool TextIsName() const { return false; }
@@ -79,6 +90,11 @@ protected:
 
 private:
     void ApplyGeometry();
+    // Whether the control shows on the form: visible with its containers,
+    // and starting within the form's width.
+    bool OnForm() const;
+    // Makes the window of a control that waited, once it is on the form.
+    void CreateIfNowOnForm();
     // Writes the control's name into a window whose text is its name: the
     // tooltip, or where there is none the accessible name.
     void WriteName();
@@ -89,6 +105,7 @@ private:
     // Destroyed by DestroyChild, or else with the form's window.
     WindowHandle window_;
     bool detached_ = false;
+    bool waitsToShow_ = false;
     // The control's own background brush, made again only when its colour
     // changes.
     BrushHandle brush_;

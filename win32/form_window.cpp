@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "common/startup_marks.h"
 #include "dpi.h"
 #include "move_loop.h"
 #include "res/resource_ids.h"
@@ -57,8 +58,8 @@ void FormWindow::RegisterClasses(HINSTANCE instance) {
         windowClass.lpfnWndProc = WindowProc;
         windowClass.hInstance = instance;
         windowClass.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-        windowClass.hIcon = ProgramIcon(instance, SM_CXICON, SM_CYICON);
-        windowClass.hIconSm = ProgramIcon(instance, SM_CXSMICON, SM_CYSMICON);
+        // No icons here: reading them would delay the bar. Each window
+        // gets them once it has first been drawn.
         windowClass.lpszClassName = name;
         ::RegisterClassExW(&windowClass);
     }
@@ -84,6 +85,7 @@ FormWindow::FormWindow(HINSTANCE instance, ui::Form& form) : form_(form) {
     form_.AttachPeer(this);
     // A new window is not topmost.
     if (form_.TopMost()) ApplyTopMost();
+    marks::Mark("window", form_.Name());
     if (form_.Visible()) ApplyVisible();
 }
 
@@ -110,7 +112,7 @@ void FormWindow::CreateControls() {
     });
     // A new child window goes beneath the ones made before it, and Tab
     // follows that order: made in tab order, the windows need no moving.
-    for (ControlWindow* control : tabOrder_) control->Create();
+    for (ControlWindow* control : tabOrder_) control->CreateWhenOnForm();
     PutFramesBeneath();
     created_ = true;
 }
@@ -167,6 +169,11 @@ ControlWindow* FormWindow::ControlOfWindow(HWND child) const {
     return nullptr;
 }
 
+const ui::Control* FormWindow::ControlAt(HWND child) const {
+    const ControlWindow* control = ControlOfWindow(child);
+    return control != nullptr ? &control->Model() : nullptr;
+}
+
 LONG FormWindow::ClientHeight() const {
     RECT client{};
     ::GetClientRect(Handle(), &client);
@@ -206,6 +213,11 @@ void FormWindow::SetToolTip(HWND child, const std::wstring& text) {
 
 void FormWindow::FirstShown() {
     shown_ = true;
+    const HINSTANCE instance = ::GetModuleHandleW(nullptr);
+    ::SendMessageW(Handle(), WM_SETICON, ICON_BIG,
+                   reinterpret_cast<LPARAM>(ProgramIcon(instance, SM_CXICON, SM_CYICON)));
+    ::SendMessageW(Handle(), WM_SETICON, ICON_SMALL,
+                   reinterpret_cast<LPARAM>(ProgramIcon(instance, SM_CXSMICON, SM_CYSMICON)));
     std::map<HWND, std::wstring> waiting;
     waiting.swap(waitingTips_);
     for (const auto& [child, text] : waiting) {
@@ -280,6 +292,7 @@ void FormWindow::ApplyVisible() {
         ::SetActiveWindow(activatedFrom_);
     }
     ::ShowWindow(Handle(), ShowCommand());
+    if (form_.Visible() && !firstShowingPosted_) marks::Mark("shown", form_.Name());
     // What only matters on screen (tips, drop targets) is made once the
     // window has been drawn, so the window shows without waiting for it.
     if (form_.Visible() && !shown_ && !firstShowingPosted_) {
@@ -358,6 +371,10 @@ void FormWindow::Paint() {
     UpdateFace();
     PaintScope paint(Handle());
     face_.PaintTo(paint.Get());
+    if (!painted_) {
+        painted_ = true;
+        marks::Mark("painted", form_.Name());
+    }
 }
 
 LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

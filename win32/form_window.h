@@ -70,6 +70,8 @@ public:
     void ControlFocused(HWND child);
     // The focus goes to the first control in tab order that may take it.
     void FocusFirstControl();
+    // The control whose window, or a part of it, this is; null for none.
+    const ui::Control* ControlAt(HWND child) const;
 
 private:
     static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -131,6 +133,7 @@ private:
     std::map<HWND, std::wstring> waitingTips_;
     bool firstShowingPosted_ = false;
     bool shown_ = false;
+    bool painted_ = false;
     // True while the form's own geometry is written to the window.
     bool placing_ = false;
     bool detached_ = false;

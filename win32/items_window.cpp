@@ -3,16 +3,7 @@
 namespace qs::win {
 
 void ItemsWindow::OnChanged(ui::Property what) {
-    switch (what) {
-        case ui::Property::Visible:
-            if (list_.Shown() && Handle() == nullptr) Create();
-            break;
-        case ui::Property::ListIndex:
-            if (Handle() != nullptr) WriteIndex();
-            break;
-        default:
-            break;
-    }
+    if (what == ui::Property::ListIndex && Handle() != nullptr) WriteIndex();
 }
 
 void ItemsWindow::ItemInserted(std::int32_t index) {

@@ -44,7 +44,6 @@ public:
     void ItemsCleared() override;
 
 protected:
-    // A hidden list gets its window when it first shows.
     void OnChanged(ui::Property what) override;
     // The text the window shows for an entry.
     virtual std::wstring ItemText(std::int32_t index) const { return std::wstring(list_.List(index)); }

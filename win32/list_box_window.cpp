@@ -3,7 +3,6 @@
 namespace qs::win {
 
 void ListBoxWindow::Create() {
-    if (!Model().Shown() || Handle() != nullptr) return;
     CreateChild(L"LISTBOX", WS_VSCROLL | WS_TABSTOP | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT, WS_EX_CLIENTEDGE);
     if (Handle() == nullptr) return;
     WriteItems();

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "common/application.h"
+#include "common/startup_marks.h"
 #include "startup/active_start.h"
 #include "dpi.h"
 #include "ole_on_demand.h"
@@ -10,6 +11,7 @@
 #include "win32_system.h"
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
+    qs::marks::Mark("entry");
     qs::win::EnablePerMonitorDpi();
     qs::win::Win32System system;
     // Started by the first drop target or shell launch, ended at the exit.
@@ -19,6 +21,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
     qs::win::Win32Backend backend(instance);
     app.AttachBackend(&backend);
     system.SetWindowLookup([&backend](const qs::ui::Form& form) { return backend.WindowOf(form); });
+    qs::marks::Mark("program and window classes made");
 
     try {
         qs::Main(app);
@@ -28,5 +31,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
         return 1;
     }
     app.frmMain.TextMain.SetFocus();
-    return backend.RunMessageLoop();
+    const int exitCode = backend.RunMessageLoop();
+    // A start that never took a key still leaves its marks.
+    qs::marks::Write();
+    return exitCode;
 }

@@ -58,7 +58,7 @@ void PictureBoxWindow::OnChanged(ui::Property what) {
     // becomes part of the face; one that stops showing a strip gets one.
     const bool strip = IsStripPicture(picture_.Picture());
     if (strip && Handle() != nullptr) DestroyChild();
-    if (!strip && Handle() == nullptr) MakeWindow();
+    if (!strip && Handle() == nullptr && !WaitsToShow()) MakeWindow();
     if (Handle() != nullptr) ::InvalidateRect(Handle(), nullptr, FALSE);
     Form().FieldsMoved();
 }

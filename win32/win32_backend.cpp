@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "common/startup_marks.h"
 #include "form_window.h"
+#include "window_hook.h"
 #include "ui/form.h"
 #include "window_hook.h"
 
@@ -29,6 +31,10 @@ std::vector<HWND> OtherEnabledWindows(HWND except) {
     return search.found;
 }
 
+bool IsKey(UINT message) {
+    return message == WM_KEYDOWN || message == WM_CHAR || message == WM_SYSKEYDOWN || message == WM_SYSCHAR;
+}
+
 // Messages that only draw: they may go on while input waits for the work.
 bool OnlyPaints(UINT message) {
     return message == WM_PAINT || message == WM_NCPAINT || message == WM_ERASEBKGND || message == WM_SYNCPAINT;
@@ -39,6 +45,7 @@ bool OnlyPaints(UINT message) {
 Win32Backend::Win32Backend(HINSTANCE instance) : instance_(instance) { FormWindow::RegisterClasses(instance); }
 
 Win32Backend::~Win32Backend() {
+    if (idleTimer_ != 0) ::KillTimer(nullptr, idleTimer_);
     windows_.clear();
     unloaded_.clear();
 }
@@ -111,6 +118,47 @@ std::function<void()> Win32Backend::PendingWorkWaker() {
     return [thread = ::GetCurrentThreadId()] { ::PostThreadMessageW(thread, WM_NULL, 0, 0); };
 }
 
+void Win32Backend::RunWhenIdle(std::function<void()> work) {
+    idleWork_.push_back(std::move(work));
+    if (idleTimer_ == 0) idleTimer_ = ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, nullptr);
+    // Without a timer the work runs now rather than never.
+    if (idleTimer_ == 0) {
+        std::vector<std::function<void()>> now;
+        now.swap(idleWork_);
+        for (const auto& step : now) step();
+    }
+}
+
+bool Win32Backend::RunIdleWork(const MSG& message) {
+    if (message.message != WM_TIMER || message.hwnd != nullptr || idleTimer_ == 0 || message.wParam != idleTimer_) {
+        return false;
+    }
+    ::KillTimer(nullptr, idleTimer_);
+    idleTimer_ = 0;
+    std::vector<std::function<void()>> work;
+    work.swap(idleWork_);
+    for (const auto& step : work) {
+        AtEventBoundary([&step] {
+            step();
+            return LRESULT{0};
+        });
+    }
+    return true;
+}
+
+bool Win32Backend::PassesInputWork(const MSG& message) const {
+    if (message.message == WM_TIMER) return true;
+    if (message.message != WM_KEYDOWN && message.message != WM_KEYUP && message.message != WM_CHAR) return false;
+    if (message.hwnd == nullptr) return false;
+    const HWND form = ::GetAncestor(message.hwnd, GA_ROOT);
+    for (const auto& entry : windows_) {
+        if (entry.second->Handle() != form) continue;
+        const ui::Control* control = entry.second->ControlAt(message.hwnd);
+        return control != nullptr && control->KeysPassInputWork();
+    }
+    return false;
+}
+
 void Win32Backend::RunPendingWork() {
     // What is on screen is drawn before the wait, whatever came first.
     for (const auto& entry : windows_) {
@@ -124,7 +172,14 @@ void Win32Backend::RunPendingWork() {
 bool Win32Backend::PumpOne(MSG& message) {
     const BOOL got = ::GetMessageW(&message, nullptr, 0, 0);
     if (got == 0 || got == -1) return false;
-    if (pendingWork_ && !OnlyPaints(message.message)) RunPendingWork();
+    if (pendingWork_ && !OnlyPaints(message.message) && !PassesInputWork(message)) RunPendingWork();
+    if (!keyTaken_ && IsKey(message.message)) {
+        // The first key taken ends the start-up that the marks measure.
+        keyTaken_ = true;
+        marks::Mark("key taken");
+        marks::Write();
+    }
+    if (RunIdleWork(message)) return true;
     if (MoveFocusByKey(message)) return true;
     if (PreviewKeyDown(message)) {
         ReleaseUnloaded();

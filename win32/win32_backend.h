@@ -29,6 +29,9 @@ public:
     // waker posts such a message to this thread.
     void RunBeforeInput(std::function<void()> work) override;
     std::function<void()> PendingWorkWaker() override;
+    // The work runs at the first timer message of the thread: one comes
+    // only when no input and no painting waits.
+    void RunWhenIdle(std::function<void()> work) override;
 
     // The window of a loaded form; null when it has none.
     HWND WindowOf(const ui::Form& form) const;
@@ -52,6 +55,12 @@ private:
     void ReleaseUnloaded();
     // Draws the visible windows, then runs the work input waits for.
     void RunPendingWork();
+    // True for a message that may go before that work: a timer's, or a key
+    // typed into a control that waits itself for what it reads.
+    bool PassesInputWork(const MSG& message) const;
+    // Runs the work that waited for an idle moment; true when the message
+    // was the timer that tells of one.
+    bool RunIdleWork(const MSG& message);
 
     HINSTANCE instance_;
     std::map<const ui::Form*, std::unique_ptr<FormWindow>> windows_;
@@ -62,6 +71,9 @@ private:
     // when no window procedure of theirs can still be on the stack.
     int modalDepth_ = 0;
     std::function<void()> pendingWork_;
+    std::vector<std::function<void()>> idleWork_;
+    UINT_PTR idleTimer_ = 0;
+    bool keyTaken_ = false;
 };
 
 }  // namespace qs::win

@@ -4,6 +4,7 @@
 #include "common/application.h"
 #include "common/failure.h"
 #include "common/text_case.h"
+#include "data/launch_list.h"
 #include "startup/active_message.h"
 #include "windows/frm_main.h"
 
@@ -125,6 +126,9 @@ void FrmMain::TextMainChangeSearch(const std::wstring& text) {
 }
 
 void FrmMain::ListSearch(std::wstring& rawCode, std::wstring& typed, std::int16_t group) {
+    // Typing goes on while the lists are still being tested: the search
+    // waits only for its own group's answers.
+    LaunchListSettleGroup(app_, group);
     const ui::ListBox& combo = app_.frmChoose.ComboListItemName(group);
     std::int16_t lastIndex = ToInt16(combo.ListCount() - 1);
     if (lastIndex == -1) return;

@@ -2,12 +2,18 @@
 #include "common/application.h"
 #include "common/failure.h"
 #include "common/text_case.h"
+#include "data/launch_list.h"
 #include "windows/frm_main.h"
 
 namespace qs {
 
 void FrmMain::TextMainKeyPress(std::int16_t& key) {
     try {
+        // Keys reach the box before the lists are whole; a character and
+        // Backspace only change the text, whose search waits for its own
+        // group, but Enter, Esc and the other control keys act on the lists
+        // and the panes, which wait for every group.
+        if (key < 32 && key != 8) LaunchListSettle(app_);
         switch (key) {
             case 8:
                 BackspaceTyped = true;

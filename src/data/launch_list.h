@@ -32,13 +32,18 @@ void LaunchListReadAhead(Application& app);
 // order, then, on a flash drive, the flash drive's three. The files are
 // read on a thread of their own (the one started ahead, when the files
 // are still the same); the load takes each as it is read, in its order,
-// and reports its failure then. Email and Web URL join the lists at once;
-// the File, Folder and Program records join them when LaunchListSettle
-// runs, which the window system does before any input.
+// and reports its failure then. The records join the lists when
+// LaunchListSettle runs, which the window system does after the first
+// paint and before any input: the File, Folder and Program records that
+// passed their tests, and every Email and Web URL record.
 void LaunchListLoad(Application& app);
-// Waits for the load's target tests and adds the records that passed, file
-// by file in the load's order; does nothing when no load waits.
+// Waits for the load's target tests and adds the records that passed, with
+// the Email and Web URL records, file by file in the load's order; does
+// nothing when no load waits.
 void LaunchListSettle(Application& app);
+// The same for one group only, waiting for its own files' answers and no
+// others: what auto-fill of that group needs. The other groups join later.
+void LaunchListSettleGroup(Application& app, std::int16_t group);
 
 // The list parts of the save at exit, in the order the exit runs them:
 // on a flash drive, count the flash-side lists; (the flash drive's record is

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "common/application.h"
+#include "common/startup_marks.h"
 #include "data/launch_list.h"
 #include "data/list_file_read.h"
 #include "data/list_files.h"
@@ -74,23 +75,47 @@ std::unique_ptr<ListFileReads> ReadsForLoad(Application& app) {
     return std::make_unique<ListFileReads>(app, windows != nullptr ? windows->PendingWorkWaker() : nullptr);
 }
 
-// Takes file `i` of the load as read. Email and Web URL records join the
-// lists at once; the others wait for their answers. A failure of the
+// Takes file `i` of the load as read: its records wait to join the lists
+// until input may come, the File, Folder and Program records for their
+// answers too, since nothing on screen shows them before. A failure of the
 // reading is reported now, in the load's order, and the records read
-// before it are added with the others.
+// before it join with the others.
 void TakeFile(Application& app, PendingListLoad& load, std::size_t i) {
     const ListFileOfLoad& file = load.reads->Files()[i];
     try {
         const std::optional<ReadRecords>& records = load.reads->Records(i);
         if (!records) return;
-        if (file.group > 2) {
-            AddComputerSide(app, file.group, *records, nullptr);
-        } else {
-            load.waiting.push_back(i);
-        }
+        load.waiting.push_back(i);
+        load.added.push_back(false);
         RaiseFailure(records->failure);
     } catch (const std::exception&) {
         ReportBug(app, LoadRoutine(file.flashSide));
+    }
+}
+
+// Adds waiting file `k` of the load to the lists: the File, Folder and
+// Program records that passed their tests, every Email and Web URL record.
+void AddWaitingFile(Application& app, PendingListLoad& load, std::size_t k) {
+    load.added[k] = true;
+    ListFileReads& reads = *load.reads;
+    const std::size_t i = load.waiting[k];
+    const ListFileOfLoad& file = reads.Files()[i];
+    const ReadRecords& records = *reads.Records(i);
+    try {
+        if (file.group > 2) {
+            // Email and Web URL are not tested.
+            AddComputerSide(app, file.group, records, nullptr);
+            return;
+        }
+        const std::vector<bool>& passes = reads.Passes(i);
+        if (file.flashSide) {
+            AddFlashSide(app, file.group, records, passes);
+        } else {
+            AddComputerSide(app, file.group, records, &passes);
+        }
+    } catch (const std::exception&) {
+        // One report per file: a file whose reading failed has had its.
+        if (!records.failure) ReportBug(app, LoadRoutine(file.flashSide));
     }
 }
 
@@ -147,25 +172,30 @@ void LaunchListLoad(Application& app) {
 void LaunchListSettle(Application& app) {
     if (!app.pendingListLoad) return;
     const std::unique_ptr<PendingListLoad> load = std::move(app.pendingListLoad);
-    ListFileReads& reads = *load->reads;
-    reads.Wait();
-    for (const std::size_t i : load->waiting) {
-        const ListFileOfLoad& file = reads.Files()[i];
-        const ReadRecords& records = *reads.Records(i);
-        try {
-            const std::vector<bool>& passes = reads.Passes(i);
-            if (file.flashSide) {
-                AddFlashSide(app, file.group, records, passes);
-            } else {
-                AddComputerSide(app, file.group, records, &passes);
-            }
-        } catch (const std::exception&) {
-            // One report per file: a file whose reading failed has had its.
-            if (!records.failure) ReportBug(app, LoadRoutine(file.flashSide));
-        }
+    load->reads->Wait();
+    for (std::size_t k = 0; k < load->waiting.size(); ++k) {
+        if (!load->added[k]) AddWaitingFile(app, *load, k);
     }
     // The QuickLauncher loaded before these lists were whole.
     if (app.frmQuick.IsLoaded()) app.frmQuick.ShowGroupsWithItems();
+    marks::Mark("lists settled");
+}
+
+void LaunchListSettleGroup(Application& app, std::int16_t group) {
+    if (!app.pendingListLoad) return;
+    // Held here while the group's files join, so that a report shown
+    // meanwhile, whose loop may settle the rest, finds no load to settle.
+    std::unique_ptr<PendingListLoad> load = std::move(app.pendingListLoad);
+    for (std::size_t k = 0; k < load->waiting.size(); ++k) {
+        const std::size_t i = load->waiting[k];
+        if (load->added[k] || load->reads->Files()[i].group != group) continue;
+        if (group < 3) load->reads->WaitFor(i);
+        AddWaitingFile(app, *load, k);
+    }
+    app.pendingListLoad = std::move(load);
+    // The other groups still join before any other input.
+    ui::Backend* const windows = app.backend;
+    if (windows != nullptr) windows->RunBeforeInput([&app] { LaunchListSettle(app); });
 }
 
 }  // namespace qs

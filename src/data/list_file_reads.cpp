@@ -1,8 +1,10 @@
 #include "data/list_file_reads.h"
 
+#include <stdexcept>
 #include <system_error>
 
 #include "common/application.h"
+#include "common/startup_marks.h"
 
 namespace qs {
 
@@ -17,7 +19,15 @@ ListFileReads::ListFileReads(const Application& app, std::function<void()> finis
       files_(ListFilesOfLoad(app)),
       slots_(files_.size()),
       finished_(std::move(finished)),
+      read_(files_.size(), false),
+      taken_(files_.size(), false),
+      answered_(files_.size(), false),
       filesLeft_(files_.size()) {
+    // Without a list file there is nothing to wait for on another thread.
+    if (files_.empty()) {
+        Run();
+        return;
+    }
     try {
         thread_ = std::thread([this] { Run(); });
     } catch (const std::system_error&) {
@@ -28,14 +38,10 @@ ListFileReads::ListFileReads(const Application& app, std::function<void()> finis
 ListFileReads::~ListFileReads() { Wait(); }
 
 void ListFileReads::Run() {
-    for (std::size_t i = 0; i < files_.size(); ++i) {
-        Read(i);
-        {
-            const std::lock_guard<std::mutex> lock(mutex_);
-            filesRead_ = i + 1;
-        }
-        fileRead_.notify_all();
+    while (ReadUntakenFile()) {
     }
+    WaitUntilAllRead();
+    marks::Mark("list files read");
     if (files_.empty()) {
         if (finished_) finished_();
         return;
@@ -43,14 +49,70 @@ void ListFileReads::Run() {
     TestUntakenFiles();
 }
 
-void ListFileReads::TestUntakenFiles() {
-    for (;;) {
-        const std::size_t i = nextFile_.fetch_add(1);
-        if (i >= files_.size()) return;
-        if (Tested(files_[i]) && slots_[i].records) Test(i);
-        // Whoever answers the last file tells the end.
-        if (filesLeft_.fetch_sub(1) == 1 && finished_) finished_();
+bool ListFileReads::ReadUntakenFile() {
+    const std::size_t i = nextRead_.fetch_add(1);
+    if (i >= files_.size()) return false;
+    Read(i);
+    {
+        const std::lock_guard<std::mutex> lock(mutex_);
+        read_[i] = true;
+        ++filesRead_;
     }
+    fileRead_.notify_all();
+    return true;
+}
+
+void ListFileReads::WaitUntilAllRead() {
+    std::unique_lock<std::mutex> lock(mutex_);
+    fileRead_.wait(lock, [this] { return filesRead_ == files_.size(); });
+}
+
+void ListFileReads::TestUntakenFiles() {
+    while (TestUntakenFile()) {
+    }
+}
+
+bool ListFileReads::TestUntakenFile() {
+    for (std::size_t i = 0; i < files_.size(); ++i) {
+        if (!Take(i)) continue;
+        TestTaken(i);
+        return true;
+    }
+    return false;
+}
+
+bool ListFileReads::Take(std::size_t i) {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    if (taken_[i]) return false;
+    taken_[i] = true;
+    return true;
+}
+
+void ListFileReads::TestTaken(std::size_t i) {
+    if (Tested(files_[i]) && slots_[i].records) Test(i);
+    {
+        const std::lock_guard<std::mutex> lock(mutex_);
+        answered_[i] = true;
+    }
+    fileAnswered_.notify_all();
+    // Whoever answers the last file tells the end.
+    if (filesLeft_.fetch_sub(1) == 1) {
+        marks::Mark("list targets tested");
+        if (finished_) finished_();
+    }
+}
+
+void ListFileReads::WaitFor(std::size_t i) {
+    if (i >= files_.size()) throw std::out_of_range("ListFileReads::WaitFor");
+    // The files are read first, as the testing needs them; then the waiting
+    // thread tests this file itself unless another thread has taken it,
+    // and waits for no other file's answers.
+    while (ReadUntakenFile()) {
+    }
+    WaitUntilAllRead();
+    if (Take(i)) TestTaken(i);
+    std::unique_lock<std::mutex> lock(mutex_);
+    fileAnswered_.wait(lock, [this, i] { return answered_[i]; });
 }
 
 void ListFileReads::Read(std::size_t i) {
@@ -74,22 +136,30 @@ void ListFileReads::Test(std::size_t i) {
 const std::optional<ReadRecords>& ListFileReads::Records(std::size_t i) {
     // Asked of a file the load does not read, this throws rather than waits.
     const Slot& slot = slots_.at(i);
-    {
-        std::unique_lock<std::mutex> lock(mutex_);
-        fileRead_.wait(lock, [this, i] { return filesRead_ > i; });
+    for (;;) {
+        {
+            std::unique_lock<std::mutex> lock(mutex_);
+            if (read_[i]) break;
+            // A file being read elsewhere is waited for; while files up to
+            // this one are still untaken, the waiting thread reads them
+            // itself, on a core of its own, in the order they are taken.
+            if (nextRead_.load() > i) {
+                fileRead_.wait(lock, [this, i] { return read_[i]; });
+                break;
+            }
+        }
+        ReadUntakenFile();
     }
     if (slot.readFailure) std::rethrow_exception(slot.readFailure);
     return slot.records;
 }
 
 void ListFileReads::Wait() {
-    // The waiting thread has nothing else to do: once every file is read it
-    // tests the files the reading thread has not taken yet, on a core of
-    // its own.
-    {
-        std::unique_lock<std::mutex> lock(mutex_);
-        fileRead_.wait(lock, [this] { return filesRead_ == files_.size(); });
+    // The waiting thread has nothing else to do: it reads and then tests
+    // the files the reading thread has not taken yet, on a core of its own.
+    while (ReadUntakenFile()) {
     }
+    WaitUntilAllRead();
     TestUntakenFiles();
     if (thread_.joinable()) thread_.join();
 }

@@ -1,12 +1,13 @@
 #pragma once
 // The files of one list load, read and tested on one thread of their own,
-// so that the windows can be made and shown meanwhile. The thread reads the
-// files in the load's order, then asks the system, in one bulk call per
-// file, whether the File, Folder and Program targets are there. The load
-// takes each file as soon as it is read, in its own order, and the answers
-// once they are all in; one thread, because the window thread needs the
-// other core of a small machine while it makes the windows. A thread that
-// waits for the answers tests the files not yet taken meanwhile.
+// so that the windows can be made and shown meanwhile. The thread takes the
+// files in the load's order and reads them, then asks the system, in one
+// bulk call per file, whether the File, Folder and Program targets are
+// there. The load takes each file as soon as it is read, in its own order,
+// and the answers once they are all in; one thread, because the window
+// thread needs the other core of a small machine while it makes the
+// windows. A thread that waits for a file reads the files not yet taken
+// meanwhile, and one that waits for the answers tests them.
 #include <atomic>
 #include <condition_variable>
 #include <cstddef>
@@ -40,6 +41,9 @@ public:
     const std::optional<ReadRecords>& Records(std::size_t i);
     // Waits until every answer is in, testing files meanwhile.
     void Wait();
+    // Waits until the answers for file `i` are in, testing it here when no
+    // thread has taken it yet; the answers of other files are not awaited.
+    void WaitFor(std::size_t i);
     // After Wait: the answers for the targets of file `i`, a File, Folder or
     // Program file that was read; throws what the system threw.
     const std::vector<bool>& Passes(std::size_t i) const;
@@ -53,10 +57,20 @@ private:
     };
 
     void Run();
+    // Takes the next file not yet taken and reads it; false when none is left.
+    bool ReadUntakenFile();
+    void WaitUntilAllRead();
     void Read(std::size_t i);
     void Test(std::size_t i);
     // Tests file after file not yet taken by another thread, until none is left.
     void TestUntakenFiles();
+    // Takes the first file not yet taken for testing and tests it; false
+    // when none is left.
+    bool TestUntakenFile();
+    // Takes file `i` for testing; false when another thread has.
+    bool Take(std::size_t i);
+    // Tests a file taken and tells its answers, and the end after the last.
+    void TestTaken(std::size_t i);
 
     const Application& app_;
     std::vector<ListFileOfLoad> files_;
@@ -64,9 +78,15 @@ private:
     std::function<void()> finished_;
     std::mutex mutex_;
     std::condition_variable fileRead_;
+    // Which files are read, and how many; the next file to be taken for reading.
+    std::vector<bool> read_;
     std::size_t filesRead_ = 0;
-    // The next file to be taken for testing, and the files not yet answered.
-    std::atomic<std::size_t> nextFile_ = 0;
+    std::atomic<std::size_t> nextRead_ = 0;
+    // Which files are taken for testing and which have their answers, and
+    // how many are not yet answered.
+    std::vector<bool> taken_;
+    std::vector<bool> answered_;
+    std::condition_variable fileAnswered_;
     std::atomic<std::size_t> filesLeft_;
     std::thread thread_;
 };

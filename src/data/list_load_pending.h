@@ -12,8 +12,10 @@ namespace qs {
 
 struct PendingListLoad {
     std::unique_ptr<ListFileReads> reads;
-    // The File, Folder and Program files read, by their place in the load.
+    // The files read, by their place in the load, and which of them have
+    // joined the lists already (a group settled before the others).
     std::vector<std::size_t> waiting;
+    std::vector<bool> added;
 };
 
 }  // namespace qs

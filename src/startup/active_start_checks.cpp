@@ -83,7 +83,11 @@ std::wstring AtStartPathRoot(Application& app, std::wstring& path) {
 
 std::wstring AtStartDriveType(Application& app, std::wstring& root) {
     try {
-        switch (app.sys.GetDrive(app.sys.GetDriveName(root)).type) {
+        const std::wstring name = app.sys.GetDriveName(root);
+        // The program's own drive was asked of the system a moment ago.
+        const ProgramPlace& place = app.place;
+        const bool programDrive = !name.empty() && name == place.ProgramDriveName;
+        switch (programDrive ? place.ProgramDrive.type : app.sys.GetDrive(name).type) {
             case DriveType::Removable:
                 app.place.OnRemovable = true;
                 return L"";

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/system.h"
+
 namespace qs {
 
 struct ProgramPlace {
@@ -13,6 +15,10 @@ struct ProgramPlace {
     // The program drive's letter as the system gives it, and upper-cased.
     std::wstring ProgramDriveLetter;
     std::wstring ProgramDriveLetterUpper;
+    // The program's drive as the system answered at start, and the drive
+    // name it was asked by: its type is not asked twice.
+    std::wstring ProgramDriveName;
+    DriveInfo ProgramDrive;
     // Leading parts through the first backslash, as "C:\".
     std::wstring WindowsRoot;
     std::wstring ProgramRoot;

@@ -25,6 +25,11 @@ public:
     // message reaches them, or as soon as the waker says it can. Where no
     // window system runs, it runs at once.
     virtual void RunBeforeInput(std::function<void()> work) { work(); }
+    // Work that nothing on screen needs yet: it runs at the first idle
+    // moment after the windows shown have first been drawn, and whoever
+    // needs its result first runs it sooner. Where no window system runs,
+    // it runs at once.
+    virtual void RunWhenIdle(std::function<void()> work) { work(); }
     // A call that tells the window thread, from any thread, that the work
     // given to RunBeforeInput can run now; it holds nothing of the backend,
     // so it may outlive it. Empty where there is nobody to wake.

@@ -111,6 +111,12 @@ public:
     // Asks for the keyboard focus; the peer moves it on a real window.
     void SetFocus();
 
+    // Keys typed into the control reach it before the work the window
+    // system runs before input (Backend::RunBeforeInput): its own key
+    // handlers wait for what they read.
+    bool KeysPassInputWork() const { return keysPassInputWork_; }
+    void SetKeysPassInputWork(bool pass) { keysPassInputWork_ = pass; }
+
     // Position in the form's tab order.
     std::int16_t TabIndex() const { return tabIndex_; }
     void SetTabIndex(std::int16_t index);
@@ -144,6 +150,7 @@ private:
     std::int16_t fontSize_ = 0;
     bool fontBold_ = false;
     bool fontUnderline_ = false;
+    bool keysPassInputWork_ = false;
     Control* container_ = nullptr;
     ControlPeer* peer_ = nullptr;
 };

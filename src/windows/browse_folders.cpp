@@ -4,6 +4,7 @@
 #include "common/text_case.h"
 #include "common/text_main_busy.h"
 #include "startup/active_message.h"
+#include "ui/backend.h"
 #include "windows/frm_browse.h"
 
 namespace qs {
@@ -19,6 +20,19 @@ std::int16_t FrmBrowse::ActDeclareDriveType(const std::wstring& firstThree) cons
 void FrmBrowse::FormLoad() {
     SystemMessagePending = true;
     PictureBrowse.Move(120, 120, 5040, 8412);
+    // Listing drives, folders and files is nothing the bar needs to show:
+    // it waits for a quiet moment, or for the first that needs it.
+    boxesLoaded_ = false;
+    if (app_.backend != nullptr) {
+        app_.backend->RunWhenIdle([this] { LoadBoxes(); });
+    } else {
+        LoadBoxes();
+    }
+}
+
+void FrmBrowse::LoadBoxes() {
+    if (boxesLoaded_ || !IsLoaded()) return;
+    boxesLoaded_ = true;
     // The boxes start in the program's folder, the Windows drive's root
     // when that cannot be read.
     {

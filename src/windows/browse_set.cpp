@@ -37,6 +37,7 @@ constexpr OptionLook OptionLooks[] = {
 void ActionSetBrowse(Application& app, std::int16_t& mode) {
     try {
         FrmBrowse& pane = app.frmBrowse;
+        pane.LoadBoxes();
         app.SavedMainTop = -1;
         app.frmChoose.Hide();
         if (mode != -1) pane.OptionBrowse(mode).SetValue(true);

@@ -83,6 +83,11 @@ public:
 
     // Event handlers.
     void FormLoad();
+    // The drive, folder and file boxes of the load, which set LastFolder:
+    // filled at the first idle moment after the bar's first paint, or before
+    // that by whatever needs them first (the pane's opening, the exit save).
+    // Fills them once per load; later calls do nothing.
+    void LoadBoxes();
     void OptionBrowseClick(std::int16_t index);
     void DriveWorkChange();
     void DirWorkChange();
@@ -103,6 +108,8 @@ public:
     // The drag from PictureFindPath, read by the tests: whether one runs and
     // the window the pointer was last seen over.
     bool IsFindingPath() const { return FindPathActive; }
+    // Whether the load's boxes have been filled.
+    bool BoxesLoaded() const { return boxesLoaded_; }
     WindowHandle LastPointedWindow() const { return PointedWindow; }
 
     // Shows the enabled or the disabled look of an OK button.
@@ -129,6 +136,7 @@ private:
     bool LeftButtonHeld = false;
     // True from the button's press to its release.
     bool FindPathActive = false;
+    bool boxesLoaded_ = false;
     // The processes running at the press, by position from 1.
     std::int32_t ProcessCount = 0;
     std::vector<std::wstring> ProcessNames;

@@ -49,6 +49,9 @@ FrmMain::FrmMain(Application& app)
       app_(app) {
     SetCaption(L"Quillstart");
     Move(0, 0, MainWidthCommand, MainHeight);
+    // The window is made at the first showing, once the theme has given the
+    // bar its look: a picture the theme makes a strip never gets a window.
+    SetWindowWaitsForShow(true);
     PlaceControls();
     WireEvents();
 }
@@ -64,6 +67,8 @@ void FrmMain::PlaceControls() {
     PictureBackMain.Move(BackMainLeft, 0, 5640, 372);
     TextMain.Move(BackMainLeft + 120, 0, 1812, 372);
     TextMain.SetAcceptsTextDrop(true);
+    // The first keys of a start with full lists are taken at once.
+    TextMain.SetKeysPassInputWork(true);
     static const wchar_t* const menuTips[] = {
         L"Add Items To Launch List",
         L"Browse To Open File | Run Program",

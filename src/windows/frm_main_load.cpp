@@ -5,6 +5,7 @@
 #include "data/active_family.h"
 #include "data/control_data.h"
 #include "data/launch_list.h"
+#include "windows/frm_browse.h"
 #include "windows/frm_main.h"
 
 namespace qs {
@@ -49,6 +50,8 @@ void FrmMain::FormUnload() {
     // An end of the session may come before the lists are whole; the save
     // must never write half of them.
     LaunchListSettle(app_);
+    // The Add Item pane's boxes set LastFolder, which the save writes.
+    app_.frmBrowse.LoadBoxes();
     // The position is kept in 16 bits; a bar placed beyond their reach keeps
     // the last position that fitted rather than losing the whole save.
     if (Left() >= INT16_MIN && Left() <= INT16_MAX && Top() >= INT16_MIN && Top() <= INT16_MAX) {

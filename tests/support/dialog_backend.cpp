@@ -85,4 +85,20 @@ bool DialogBackend::RunHeldWork() {
     return true;
 }
 
+void DialogBackend::RunWhenIdle(std::function<void()> work) {
+    if (holdIdleWork) {
+        heldIdleWork_.push_back(std::move(work));
+    } else {
+        work();
+    }
+}
+
+bool DialogBackend::RunHeldIdleWork() {
+    if (heldIdleWork_.empty()) return false;
+    std::vector<std::function<void()>> work;
+    work.swap(heldIdleWork_);
+    for (const auto& step : work) step();
+    return true;
+}
+
 }  // namespace qs::test

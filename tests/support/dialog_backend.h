@@ -52,6 +52,14 @@ public:
     // Runs the held work, as the first input would; false when none waits.
     bool RunHeldWork();
 
+    // Runs idle work at once, unless the test holds it to look at the
+    // program as it stands when no idle moment has come yet.
+    void RunWhenIdle(std::function<void()> work) override;
+    bool holdIdleWork = false;
+    // Runs the held idle work, as the first idle moment would; false when
+    // none waits.
+    bool RunHeldIdleWork();
+
     // Queues the answer to the next dialog shown.
     void Answer(Reply reply) { replies_.push_back(std::move(reply)); }
 
@@ -63,6 +71,7 @@ private:
     Application& app_;
     std::deque<Reply> replies_;
     std::function<void()> heldWork_;
+    std::vector<std::function<void()>> heldIdleWork_;
 };
 
 // Scripted answers.

@@ -13,10 +13,13 @@
 #include <stdexcept>
 #include <thread>
 
+#include "command/default_values.h"
 #include "data/launch_list.h"
 #include "data/list_file_reads.h"
 #include "data_setup.h"
+#include "dialog_backend.h"
 #include "shown_messages.h"
+#include "theme/active_theme.h"
 
 namespace qs::test {
 namespace {
@@ -177,21 +180,149 @@ TEST(ListFileReads, TheThreadThatWaitsTestsFilesAlongsideTheReadingThread) {
     EXPECT_EQ(reads.Passes(2), std::vector<bool>{false});
 }
 
-TEST(DeferredListLoad, TestedGroupsWaitForTheFirstInputWhileEmailAndWebAreFilledAtOnce) {
+// A system whose bulk file tests of targets in one folder wait until the
+// test opens that folder's gate.
+struct GatedSystem : FakeSystem {
+    std::mutex mutex;
+    std::condition_variable opened;
+    std::set<std::wstring> open;
+    bool allOpen = false;
+    std::vector<bool> FilesExist(const std::vector<std::wstring_view>& paths) override {
+        if (!paths.empty()) {
+            const std::wstring folder(paths[0].substr(0, paths[0].find_last_of(L'\\')));
+            std::unique_lock<std::mutex> lock(mutex);
+            opened.wait(lock, [this, &folder] { return allOpen || open.count(folder) > 0; });
+        }
+        return FakeSystem::FilesExist(paths);
+    }
+    void Open(const std::wstring& folder) {
+        {
+            const std::lock_guard<std::mutex> lock(mutex);
+            open.insert(folder);
+        }
+        opened.notify_all();
+    }
+    void OpenAll() {
+        {
+            const std::lock_guard<std::mutex> lock(mutex);
+            allOpen = true;
+        }
+        opened.notify_all();
+    }
+};
+
+// The program of a test over a gated system, with the bar loaded as after
+// start-up and input held back as before the first message.
+struct GatedApp {
+    GatedApp() {
+        app.AttachBackend(&dialogs);
+        app.WindowsFolder = L"C:\\Windows\\";
+        AtStartDefaultValue(app);
+        AtStartDefaultColor(app);
+        app.frmMain.Load();
+        ThemeCreate(app, app.settings.ThemeIndex);
+        app.frmMain.SetTextMainQuietly(L"");
+        dialogs.holdInputWork = true;
+    }
+    // A test that ends early leaves no test waiting at a closed gate.
+    ~GatedApp() { sys.OpenAll(); }
+    GatedSystem sys;
+    Application app{sys};
+    DialogBackend dialogs{app};
+};
+
+TEST(DeferredListLoad, AutoFillOfAGroupWaitsOnlyForItsOwnTestsAndAnswersWhenTheyEnd) {
+    GatedApp t;
+    SetUpFixedDiskRun(t.sys, t.app);
+    t.sys.PutFile(L"C:\\Docs\\plan.txt");
+    t.sys.PutFile(L"C:\\Apps\\player.exe");
+    t.sys.PutFile(t.app.place.FileListFile, ListFileBytes({{"plan", "C:\\Docs\\plan.txt"}}));
+    t.sys.PutFile(t.app.place.FileListProg, ListFileBytes({{"player", "C:\\Apps\\player.exe"}}));
+    StoreListCounts(t.app.settings, {.file = 0, .program = 0});
+    LaunchListLoad(t.app);
+    // The File list's test never ends while the Program list is searched;
+    // the Program list's ends a moment after the search began.
+    std::thread opener([&t] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        t.sys.Open(L"C:\\Apps");
+    });
+    t.app.frmMain.TextMain.TypeText(L"p-pl");
+    opener.join();
+    EXPECT_EQ(t.app.frmMain.TextMain.Text(), L"p-player");
+    EXPECT_EQ(t.app.PendingItemIndex, 0);
+    EXPECT_EQ(t.app.frmChoose.ComboListItemName(0).ListCount(), 0);
+    // Enter waits for every group; the File list's test ends then.
+    t.sys.Open(L"C:\\Docs");
+    t.app.frmMain.TextMain.TypeKey(13);
+    EXPECT_EQ(t.sys.launches.size(), 1u);
+    EXPECT_EQ(Entries(t.app.frmChoose.ComboListItemName(0)), (Names{L"plan"}));
+    EXPECT_TRUE(t.dialogs.RunHeldWork());
+}
+
+// Nothing on screen shows a list before the first input, so no group is
+// filled before it: the tested ones wait for their answers, and Email and
+// Web URL join with them.
+// A system whose whole-file reads each wait, up to two seconds, for a
+// second read to be under way at the same time, and note the threads that
+// call, once the test opens the meeting.
+struct MeetingReadSystem : FakeSystem {
+    std::mutex mutex;
+    std::condition_variable met;
+    bool open = false;
+    int inside = 0;
+    bool twoAtOnce = false;
+    std::set<std::thread::id> callers;
+    std::wstring ReadTextFile(const std::wstring& path) override {
+        {
+            std::unique_lock<std::mutex> lock(mutex);
+            if (open) {
+                callers.insert(std::this_thread::get_id());
+                if (++inside == 2) twoAtOnce = true;
+                met.notify_all();
+                met.wait_for(lock, std::chrono::seconds(2), [this] { return twoAtOnce; });
+                --inside;
+            }
+        }
+        return FakeSystem::ReadTextFile(path);
+    }
+};
+
+TEST(ListFileReads, AThreadWaitingForAFileReadsFilesNotYetTakenAlongsideTheReadingThread) {
+    MeetingReadSystem sys;
+    Application app(sys);
+    SeedPlanAndWork(sys, app);
+    sys.PutFile(app.place.FileListProg, ListFileBytes({{"edit", "C:\\edit.exe"}}));
+    StoreListCounts(app.settings, {.file = 0, .folder = 0, .program = 0});
+    {
+        const std::lock_guard<std::mutex> lock(sys.mutex);
+        sys.open = true;
+    }
+    ListFileReads reads(app, {});
+    const std::optional<ReadRecords>& program = reads.Records(2);
+    ASSERT_TRUE(program.has_value());
+    ASSERT_EQ(program->names.size(), 1u);
+    EXPECT_EQ(std::wstring(program->names[0].Text()), L"edit");
+    EXPECT_EQ(std::wstring(reads.Records(0)->names[0].Text()), L"plan");
+    EXPECT_EQ(std::wstring(reads.Records(1)->names[0].Text()), L"work");
+    reads.Wait();
+    EXPECT_TRUE(sys.twoAtOnce);
+    EXPECT_EQ(sys.callers.size(), 2u);
+    EXPECT_EQ(sys.callers.count(std::this_thread::get_id()), 1u);
+}
+
+TEST(DeferredListLoad, EveryGroupJoinsTheListsAtTheFirstInputTheTestedOnesWithTheirAnswers) {
     TestApp t;
     SeedMixedFlashRun(t);
     t.dialogs.holdInputWork = true;
     LaunchListLoad(t.app);
-    EXPECT_EQ(MergedNames(t, 0).ListCount(), 0);
-    EXPECT_EQ(MergedNames(t, 1).ListCount(), 0);
-    EXPECT_EQ(MergedNames(t, 2).ListCount(), 0);
+    for (int group = 0; group < 5; ++group) EXPECT_EQ(MergedNames(t, group).ListCount(), 0) << group;
     EXPECT_EQ(FlashNames(t, 2).ListCount(), 0);
-    EXPECT_EQ(Entries(MergedNames(t, 3)), (Names{L"ann"}));
-    EXPECT_EQ(Entries(MergedNames(t, 4)), (Names{L"site"}));
     ASSERT_TRUE(t.dialogs.RunHeldWork());
     EXPECT_EQ(Entries(MergedNames(t, 0)), (Names{L"notes", L"plan"}));
     EXPECT_EQ(Entries(MergedPaths(t, 1)), (Names{L"E:\\Music", L"C:\\Work"}));
     EXPECT_EQ(Entries(MergedNames(t, 2)), (Names{L"edit", L"edit", L"zip"}));
+    EXPECT_EQ(Entries(MergedNames(t, 3)), (Names{L"ann"}));
+    EXPECT_EQ(Entries(MergedNames(t, 4)), (Names{L"site"}));
     EXPECT_FALSE(t.dialogs.RunHeldWork());
 }
 
@@ -252,7 +383,6 @@ TEST(DeferredListLoad, ThePanesThatHoldTheListsMakeTheirWindowsOnlyWhenTheyFirst
     TestApp t;
     EXPECT_TRUE(t.app.frmChoose.WindowWaitsForShow());
     EXPECT_TRUE(t.app.frmBrowse.WindowWaitsForShow());
-    EXPECT_FALSE(t.app.frmMain.WindowWaitsForShow());
 }
 
 }  // namespace
