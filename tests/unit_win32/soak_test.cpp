@@ -73,6 +73,7 @@ std::vector<SoakedWindow> SoakedWindows(SoakProgram& p) {
          choose(4, app.frmChoose.PictureTool)},
         {"QuickLauncher", &bar.PictureShowQuick, &app.frmQuick.ImageHideQuick,
          [&p, &app] { return Visible(p, app.frmQuick) && app.QuickOpen; }},
+        {"Help", &bar.PictureHelp, &app.frmHelp.LabelHelpExit, [&p, &app] { return Visible(p, app.frmHelp) && app.HelpOpen; }},
     };
 }
 
