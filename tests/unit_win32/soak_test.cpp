@@ -14,11 +14,13 @@
 #include <cstdlib>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "soak_counts.h"
 #include "soak_program.h"
 #include "startup/active_message.h"
+#include "ui/timer.h"
 #include "window_test_support.h"
 
 namespace {
@@ -73,6 +75,7 @@ std::vector<SoakedWindow> SoakedWindows(SoakProgram& p) {
          choose(4, app.frmChoose.PictureTool)},
         {"QuickLauncher", &bar.PictureShowQuick, &app.frmQuick.ImageHideQuick,
          [&p, &app] { return Visible(p, app.frmQuick) && app.QuickOpen; }},
+        {"Help", &bar.PictureHelp, &app.frmHelp.LabelHelpExit, [&p, &app] { return Visible(p, app.frmHelp) && app.HelpOpen; }},
     };
 }
 
@@ -132,9 +135,22 @@ private:
     std::chrono::steady_clock::time_point start_;
 };
 
+// Longest wait for one tick of the bar's pointer poll before it counts as
+// not running.
+constexpr DWORD kPollWaitMilliseconds = 2000;
+
 class Soak : public ::testing::Test {
 protected:
-    void SetUp() override { qs::test::Pump(); }
+    void SetUp() override {
+        qs::test::Pump();
+        // Counts the ticks of the bar's pointer poll, which otherwise runs
+        // as the program wires it.
+        qs::ui::Timer& poll = p.app.frmMain.TimerMouseOver;
+        poll.Tick = [this, tick = std::move(poll.Tick)] {
+            ++pollTicks;
+            tick();
+        };
+    }
 
     // Notes something that went wrong; the first few are kept to tell.
     void Problem(const std::string& what) {
@@ -149,12 +165,28 @@ protected:
         if (dialog.shown) Problem(what + " showed a message: " + Narrow(dialog.text));
     }
 
-    void OpenAndClose(const SoakedWindow& window) {
+    // Runs the program's loop until the bar's pointer poll has ticked once
+    // more.
+    void AwaitPoll(const std::string& what) {
+        const int before = pollTicks;
+        const DWORD until = ::GetTickCount() + kPollWaitMilliseconds;
+        while (pollTicks == before) {
+            if (::GetTickCount() >= until) return Problem(what + ": the bar's pointer poll did not tick");
+            ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+            p.ReturnToLoop();
+        }
+    }
+
+    // Opens a window by its button and closes it again. Held open, it
+    // stands until the bar's pointer poll has ticked, which lights the
+    // button of the open window.
+    void OpenAndClose(const SoakedWindow& window, bool held) {
         const Timed timed(windowSeconds);
         ++openings;
         if (!p.Click(*window.opener)) return Problem(window.name + ": no button to open it");
         p.ReturnToLoop();
         if (!window.shown()) Problem(window.name + ": did not open");
+        if (held) AwaitPoll(window.name);
         if (!p.Click(*window.closer)) return Problem(window.name + ": no button to close it");
         p.ReturnToLoop();
         if (window.shown()) Problem(window.name + ": did not close");
@@ -221,16 +253,20 @@ protected:
     // One round of everything. The first goes through every window, message
     // and Command in each of the seven themes, so that each picture the
     // soak shows has been drawn and kept once; it ends in the first theme.
+    // Its windows are held open until the bar's pointer poll has lit their
+    // buttons: later rounds open each window many times, and sooner or
+    // later a tick falls while one stands and draws that button's lit
+    // picture, which the picture cache then keeps for the run.
     void Round(int round, const std::vector<SoakedWindow>& windows) {
         if (round == 0) {
             for (std::int16_t step = 1; step <= kThemes; ++step) {
                 Theme(static_cast<std::int16_t>(step % kThemes));
-                for (const SoakedWindow& window : windows) Quietly(window.name, [&] { OpenAndClose(window); });
+                for (const SoakedWindow& window : windows) Quietly(window.name, [&] { OpenAndClose(window, true); });
                 for (const SoakedMessage& message : SoakedMessages()) ShowMessage(message);
                 TypeCommands(round);
             }
         } else {
-            for (const SoakedWindow& window : windows) Quietly(window.name, [&] { OpenAndClose(window); });
+            for (const SoakedWindow& window : windows) Quietly(window.name, [&] { OpenAndClose(window, false); });
             Theme(static_cast<std::int16_t>(round % kThemes));
             ShowMessage(SoakedMessages()[static_cast<std::size_t>(round) % SoakedMessages().size()]);
             TypeCommands(round);
@@ -242,6 +278,7 @@ protected:
     SoakProgram p;
     std::vector<std::string> problems;
     int problemCount = 0;
+    int pollTicks = 0;
     int openings = 0;
     int themeSwitches = 0;
     int messages = 0;
