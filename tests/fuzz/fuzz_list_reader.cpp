@@ -134,7 +134,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     std::wstring routine;
     if (flash) {
-        sys.files[app.place.FileListUsbFile] = sys.files[app.place.FileListUsbFold] = sys.files[app.place.FileListUsbProg] = file;
+        sys.files[qs::FlashSideFile(app, group)] = file;
         qs::ActionLaunchListGetUSB(app, group, lastIndex);
         routine = L"Quillstart:Bug:ActionLaunchListGetUSB";
     } else {
