@@ -31,10 +31,12 @@ private:
 
 // Room for the records up to the stored last index, or as many as the file
 // can hold when that is fewer: every value read takes at least one of its
-// characters, so a record takes two.
+// characters, so a record takes two. An index below -1 asks for more room
+// than there is, and fails the reading (std::length_error) as it always has.
 ReadRecords RoomFor(std::int16_t lastIndex, std::size_t fileLength) {
     ReadRecords records;
-    const std::size_t count = std::min(static_cast<std::size_t>(lastIndex) + 1, fileLength / 2 + 1);
+    const std::size_t asked = static_cast<std::size_t>(lastIndex) + 1;
+    const std::size_t count = lastIndex < 0 ? asked : std::min(asked, fileLength / 2 + 1);
     records.names.reserve(count);
     records.targets.reserve(count);
     return records;
