@@ -48,7 +48,7 @@ std::int32_t FirstNameWithPrefix(const ui::ListBox& combo, const std::wstring& l
 void ActionFindLaunchName(Application& app, std::wstring& code, std::wstring& typed, const ui::ListBox& combo,
                           std::int16_t& lastIndex) {
     try {
-        typed = LCase(typed);
+        LowerInPlace(typed);
         const std::int32_t i = FirstNameWithPrefix(combo, typed, lastIndex);
         if (i < 0) return;
         const std::wstring name(combo.List(i));
@@ -63,9 +63,9 @@ void ActionFindLaunchName(Application& app, std::wstring& code, std::wstring& ty
 
 void ActionFindFamilyMember(Application& app, std::wstring& code, std::wstring& typed) {
     try {
-        typed = LCase(typed);
+        LowerInPlace(typed);
         for (std::int32_t i = 0; i <= app.FamilyMemberCount; ++i) {
-            const std::wstring name = app.FamilyMembers.at(i).MemberName;
+            const std::wstring& name = app.FamilyMembers.at(i).MemberName;
             // The program never offers to start itself.
             if (name == L"Quillstart") continue;
             if (!HasPrefix(name, typed)) continue;
@@ -81,7 +81,9 @@ void ActionFindFamilyMember(Application& app, std::wstring& code, std::wstring& 
 }
 
 void FrmMain::TextMainChange() {
-    const std::wstring text = TextMain.Text();
+    // The box's own text, not a copy: nothing below changes it before it has
+    // been read for the last time.
+    const std::wstring& text = TextMain.Text();
     if (text.empty()) return;
     app_.MessageToShow = L"";
     app_.PendingItemIndex = -1;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string_view>
 
 #include "common/application.h"
 #include "common/failure.h"
@@ -12,16 +13,25 @@ namespace qs {
 
 namespace {
 
+// Whether `entry`, lowered by the case rule, begins with `lowerTyped`; the
+// entry is lowered a character at a time, without a lowered copy of it.
+bool BeginsWithLowered(std::wstring_view entry, std::wstring_view lowerTyped) {
+    if (entry.size() < lowerTyped.size()) return false;
+    for (std::size_t k = 0; k < lowerTyped.size(); ++k)
+        if (LowerChar(entry[k]) != lowerTyped[k]) return false;
+    return true;
+}
+
 // Writes the first entry of the table that begins with `typed` into the box,
 // selecting the completed tail. Returns the entry's index, or -1.
 std::int16_t CompleteFromTable(Application& app, const std::wstring& code, std::wstring& typed,
                                std::span<const std::wstring> table) {
-    typed = LCase(typed);
+    LowerInPlace(typed);
     const std::int16_t n = ToInt16(static_cast<long long>(typed.size()));
     for (std::size_t i = 0; i < table.size(); ++i) {
-        const std::wstring entry = LCase(table[i]);
+        const std::wstring& entry = table[i];
         const std::int16_t m = ToInt16(static_cast<long long>(entry.size()));
-        if (m >= n && entry.compare(0, static_cast<std::size_t>(n), typed) == 0) {
+        if (m >= n && BeginsWithLowered(entry, typed)) {
             app.frmMain.SetTextMainQuietly(code + table[i]);
             return static_cast<std::int16_t>(i);
         }

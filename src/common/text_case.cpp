@@ -52,6 +52,10 @@ std::wstring LCase(std::wstring_view text) {
     return lower;
 }
 
+void LowerInPlace(std::wstring& text) {
+    for (auto& c : text) c = LowerChar(c);
+}
+
 std::wstring UCase(std::wstring_view text) {
     std::wstring upper(text);
     for (auto& c : upper) c = UpperChar(c);

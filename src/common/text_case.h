@@ -9,6 +9,8 @@ namespace qs {
 wchar_t LowerChar(wchar_t c);
 wchar_t UpperChar(wchar_t c);
 std::wstring LCase(std::wstring_view text);
+// LCase of a text in place, for a text that is to be replaced by it anyway.
+void LowerInPlace(std::wstring& text);
 std::wstring UCase(std::wstring_view text);
 
 // <0, 0, >0 as a sorted name list orders a and b: by the lower-cased text,

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <string_view>
+
 #include "common/application.h"
 #include "common/text_case.h"
 #include "data/active_family.h"
@@ -85,18 +88,41 @@ std::int16_t InFamilyAddMe(Application& app, std::int16_t& lastIndex) {
     }
 }
 
+namespace {
+
+// The characters a member list's file takes, at most: the members' texts,
+// and per line six quotes, three commas, a date of up to eleven characters
+// and the line end.
+std::size_t GuruFileLength(const Application& app) {
+    const std::size_t count =
+        std::min(app.FamilyMembers.size(), static_cast<std::size_t>(std::max<int>(app.FamilyMemberCount + 1, 0)));
+    std::size_t length = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        const FamilyMember& m = app.FamilyMembers[i];
+        length += m.MemberName.size() + m.MemberTag.size() + m.MemberFolder.size() + 22;
+    }
+    return length;
+}
+
+}  // namespace
+
 void FamABSaveGuruInfo(Application& app) {
     RecordWriter writer;
     bool writing = false;
     try {
         writing = true;
+        writer.Reserve(GuruFileLength(app));
+        std::wstring flashFolder;
         for (std::int16_t i = 0; i <= app.FamilyMemberCount; i = NextIndex(i)) {
             const FamilyMember& m = app.FamilyMembers.at(static_cast<std::size_t>(i));
-            std::wstring folder = m.MemberFolder;
+            std::wstring_view folder = m.MemberFolder;
             // On a flash drive "#" stands for the drive letter.
             if (app.place.OnRemovable && !folder.empty() &&
-                UCase(folder.substr(0, 1)) == app.place.ProgramDriveLetterUpper)
-                folder[0] = L'#';
+                UCase(m.MemberFolder.substr(0, 1)) == app.place.ProgramDriveLetterUpper) {
+                flashFolder.assign(folder);
+                flashFolder[0] = L'#';
+                folder = flashFolder;
+            }
             writer.String(m.MemberName).String(m.MemberTag).Integer(m.MemberDate).String(folder).EndLine();
         }
         writing = false;

@@ -95,6 +95,10 @@ const std::wstring& RecordWriter::Text() const {
     return text_;
 }
 
+void RecordWriter::Reserve(std::size_t characters) {
+    if (used_ + characters > text_.size()) text_.resize(used_ + characters);
+}
+
 wchar_t* RecordWriter::Room(std::size_t count) {
     // The text grows by doubling and is written in place, so that a field
     // costs one test of the room left: a list file holds tens of thousands.

@@ -49,6 +49,9 @@ public:
     RecordWriter& Integer(long long value);
     // Ends the current line.
     RecordWriter& EndLine();
+    // Makes room at once for `characters` more, so that a long file is
+    // written without growing its text again and again.
+    void Reserve(std::size_t characters);
     // The text written so far.
     const std::wstring& Text() const;
 

@@ -1,5 +1,6 @@
 #include "data/list_file_read.h"
 
+#include <algorithm>
 #include <exception>
 #include <string>
 
@@ -28,10 +29,14 @@ private:
     std::optional<ui::TextBlocks> blocks_;
 };
 
-// Room for the records up to the stored last index.
-ReadRecords RoomFor(std::int16_t lastIndex) {
+// Room for the records up to the stored last index, or as many as the file
+// can hold when that is fewer: every value read takes at least one of its
+// characters, so a record takes two. An index below -1 asks for more room
+// than there is, and fails the reading (std::length_error) as it always has.
+ReadRecords RoomFor(std::int16_t lastIndex, std::size_t fileLength) {
     ReadRecords records;
-    const std::size_t count = static_cast<std::size_t>(lastIndex) + 1;
+    const std::size_t asked = static_cast<std::size_t>(lastIndex) + 1;
+    const std::size_t count = lastIndex < 0 ? asked : std::min(asked, fileLength / 2 + 1);
     records.names.reserve(count);
     records.targets.reserve(count);
     return records;
@@ -41,7 +46,7 @@ ReadRecords RoomFor(std::int16_t lastIndex) {
 // records read before a failure are still added, and only then is the
 // failure raised.
 ReadRecords ReadComputerSide(RecordReader& reader, std::size_t fileLength, std::int16_t lastIndex) {
-    ReadRecords records = RoomFor(lastIndex);
+    ReadRecords records = RoomFor(lastIndex, fileLength);
     FileTexts texts(fileLength);
     try {
         for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
@@ -60,7 +65,7 @@ ReadRecords ReadComputerSide(RecordReader& reader, std::size_t fileLength, std::
 // targets come back with the program's drive letter.
 ReadRecords ReadFlashSide(const Application& app, RecordReader& reader, std::size_t fileLength,
                           std::int16_t lastIndex) {
-    ReadRecords records = RoomFor(lastIndex);
+    ReadRecords records = RoomFor(lastIndex, fileLength);
     FileTexts texts(fileLength);
     try {
         for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {

@@ -1,5 +1,7 @@
 #include "startup/active_message.h"
 
+#include <string_view>
+
 #include "command/launchers.h"
 #include "common/application.h"
 #include "data/active_family.h"
@@ -61,9 +63,16 @@ void ShowNameBoxes(Application& app) {
 
 void MessageBug(Application& app) {
     ComposeCommon(app, L"YesNo");
-    app.message.MessageBody = L"There was some error." + CRLF + L"It will be helpful if you please report it." + CRLF +
-                              L"To report, just include the following message in your email :" + CRLF + CRLF +
-                              app.MessageToShow + CRLF + CRLF + L"Do you want to report this bug now?";
+    // Written in place, in one piece of room: every failure handler comes
+    // this way.
+    constexpr std::wstring_view before =
+        L"There was some error.\r\nIt will be helpful if you please report it.\r\n"
+        L"To report, just include the following message in your email :\r\n\r\n";
+    constexpr std::wstring_view after = L"\r\n\r\nDo you want to report this bug now?";
+    std::wstring& body = app.message.MessageBody;
+    body.clear();
+    body.reserve(before.size() + app.MessageToShow.size() + after.size());
+    body.append(before).append(app.MessageToShow).append(after);
     app.message.MessageIsBug = true;
     std::wstring noInput;
     MessageAAAct(app, app.message.MessageCaption, app.message.MessageBody, app.message.MessageButtons, noInput);

@@ -1,6 +1,5 @@
 #include "startup/message_texts.h"
 
-#include <array>
 #include <utility>
 
 #include "common/maker.h"
@@ -18,32 +17,45 @@ std::wstring NeedScriptRuntimeBody() {
            CRLF + CRLF + L"Installation package is available at " + maker::WebSite + L".";
 }
 
+// A message's key and how its text is made: a look-up builds only the text
+// of the message it finds.
+struct FatalEntry {
+    const wchar_t* key;
+    std::wstring (*body)();
+};
+
 // The fatal messages, in the order they are looked up.
-std::array<std::pair<std::wstring, std::wstring>, 6> FatalTable() {
-    return {{
-        {L"MessageSmallScreen",
-         L"Screen resolution must be at least 1200x800 for Quillstart to run correctly. Since your screen "
-         L"resolution doesn't meet the requirement, Quillstart will exit now."},
-        {L"MessageNeedSriptRuntime", NeedScriptRuntimeBody()},
-        {L"MessageMyPathNotFound",
-         L"Did you rename 'Quillstart.exe' or renamed or moved the folder of 'Quillstart.exe' or any folder on the "
-         L"path?" +
-             CRLF + CRLF +
-             L"Are you trying to run the program with a Program Launcher without even using the program at least "
-             L"once?" +
-             CRLF + CRLF + L"Whatever the problem is, to solve it you need to do the followings:" + CRLF + CRLF +
-             L"     1. Rename back the file name to 'Quillstart.exe' if renamed." + CRLF +
-             L"     2. Run the program at least once without using any Program Launcher."},
-        {L"MessageMediaUnknown", L"The Program encountered a problem and will exit now."},
-        {L"MessageMediaCDRom",
-         L"This Program runs from Removable Media, such as, Floppy or Flash Drive but not from CD/DVD-ROM." + CRLF +
-             CRLF + L"Program will exit now."},
-        {L"MessageProgFileNameChanged",
-         L"This program doesn't run if the name of the program file is changed. Original program file name is:" + CRLF +
-             CRLF + L"Quillstart.exe" + CRLF + CRLF +
-             L"If you changed the name of the file then please change it back to it's original name."},
-    }};
-}
+constexpr FatalEntry FatalTable[] = {
+    {L"MessageSmallScreen",
+     []() -> std::wstring {
+         return L"Screen resolution must be at least 1200x800 for Quillstart to run correctly. Since your screen "
+                L"resolution doesn't meet the requirement, Quillstart will exit now.";
+     }},
+    {L"MessageNeedSriptRuntime", []() -> std::wstring { return NeedScriptRuntimeBody(); }},
+    {L"MessageMyPathNotFound",
+     []() -> std::wstring {
+         return L"Did you rename 'Quillstart.exe' or renamed or moved the folder of 'Quillstart.exe' or any folder on "
+                L"the path?" +
+                CRLF + CRLF +
+                L"Are you trying to run the program with a Program Launcher without even using the program at least "
+                L"once?" +
+                CRLF + CRLF + L"Whatever the problem is, to solve it you need to do the followings:" + CRLF + CRLF +
+                L"     1. Rename back the file name to 'Quillstart.exe' if renamed." + CRLF +
+                L"     2. Run the program at least once without using any Program Launcher.";
+     }},
+    {L"MessageMediaUnknown", []() -> std::wstring { return L"The Program encountered a problem and will exit now."; }},
+    {L"MessageMediaCDRom",
+     []() -> std::wstring {
+         return L"This Program runs from Removable Media, such as, Floppy or Flash Drive but not from CD/DVD-ROM." +
+                CRLF + CRLF + L"Program will exit now.";
+     }},
+    {L"MessageProgFileNameChanged",
+     []() -> std::wstring {
+         return L"This program doesn't run if the name of the program file is changed. Original program file name is:" +
+                CRLF + CRLF + L"Quillstart.exe" + CRLF + CRLF +
+                L"If you changed the name of the file then please change it back to it's original name.";
+     }},
+};
 
 std::wstring FirstStartBody() {
     return L"If you missed it, main program window is at the top left corner of your screen. You can drag it by "
@@ -73,62 +85,100 @@ std::wstring FirstStartBody() {
 
 ProcessMessage Plain(std::wstring body) { return {L"", std::move(body), L"OK", L""}; }
 
+// An ordinary message's key and how it is made; the duplicate's Launch Name
+// is what one of them shows.
+struct OrdinaryEntry {
+    const wchar_t* key;
+    ProcessMessage (*message)(const std::wstring& duplicateItemName);
+};
+
 // The ordinary messages, in the order they are looked up.
-std::array<std::pair<std::wstring, ProcessMessage>, 13> OrdinaryTable(const std::wstring& duplicateItemName) {
-    return {{
-        {L"MessageSystemItemNotAllowed",
-         Plain(L"System Folder or any File/Folder in it can not be opened or added to Launch List." + CRLF + CRLF +
-               L"However, some Special Folders can be opened with Predefined Commands. Please check Code and "
-               L"Command.")},
-        {L"MessageFisrtStart", Plain(FirstStartBody())},
-        {L"MessageXXUnsafeItem",
-         Plain(L"Quillstart can't add to list files and folders with some specific attribute or extension. This item "
-               L"can't be added to the list.")},
-        {L"MessageFamilyProgram",
-         Plain(L"This is Morvane's Program." + CRLF + CRLF +
-               L"There is no need to add this program in the List. To run Morvane's program that you already have, "
-               L"type \"r.\" as CommandCode and the program name (such as, \"Quillstart\") as LaunchName and press "
-               L"enter on your keyboard." +
-               CRLF + CRLF + L"Here is an example:" + CRLF + CRLF +
-               L"To launch \"Quillstart\" type \"r.Quillstart\" and press \"Enter\" key.")},
-        {L"WrongPathToAdd",
-         Plain(L"To add a Program, File or Folder in your Launch List, those must be on a Fixed Drive or on the same "
-               L"Drive that Quillstart is running from. The selected item is not, so it can't be added.")},
-        {L"MessagePathAlreadyListed",
-         Plain(L"Selected item has already been included in the List. Launch Name of the selected item is:" + CRLF +
-               CRLF + duplicateItemName)},
-        {L"MessageNameAlreadyListed",
-         Plain(L"The name you typed is listed name for another item in it's group." + CRLF + CRLF +
-               L"Two different items in the same group (Groups : Program, File, Folder, Web Page, Email Address) "
-               L"can't be listed with same name. Type a different name please.")},
-        {L"MessageDriveNotReady", Plain(L"The Drive you are trying to select is not ready.")},
-        {L"MessageExePathNotFound", Plain(L"Could not find the Path of the selected Program, reason undetermined." +
-                                          CRLF + L"It can not be added to List.")},
-        {L"MessageShortcutCreated", Plain(L"A shortcut of Quillstart has been created and placed on your Desktop.")},
-        {L"MessageShortcutDeleted", Plain(L"Shortcut of Quillstart has been deleted from your Desktop.")},
-        {L"MessageGetUserName",
-         {L"Your Name Please",
-          L"Thank you for trying Quillstart." + CRLF + CRLF +
-              L"Just to become friends you can type your name above - completely optional! If you do, please use "
-              L"only alphabets." +
-              CRLF + CRLF + L"morvane" + CRLF + maker::MailAddress,
-          L"Cancel", L"Input012"}},
-        {L"MessageChangeUserName",
-         {L"New Name Please", L"Please type your name above. Use only alphabets please.", L"OKCancel", L"Input012"}},
-    }};
-}
+constexpr OrdinaryEntry OrdinaryTable[] = {
+    {L"MessageSystemItemNotAllowed",
+     [](const std::wstring&) -> ProcessMessage {
+         return Plain(L"System Folder or any File/Folder in it can not be opened or added to Launch List." + CRLF +
+                      CRLF +
+                      L"However, some Special Folders can be opened with Predefined Commands. Please check Code and "
+                      L"Command.");
+     }},
+    {L"MessageFisrtStart", [](const std::wstring&) -> ProcessMessage { return Plain(FirstStartBody()); }},
+    {L"MessageXXUnsafeItem",
+     [](const std::wstring&) -> ProcessMessage {
+         return Plain(
+             L"Quillstart can't add to list files and folders with some specific attribute or extension. This item "
+             L"can't be added to the list.");
+     }},
+    {L"MessageFamilyProgram",
+     [](const std::wstring&) -> ProcessMessage {
+         return Plain(
+             L"This is Morvane's Program." + CRLF + CRLF +
+             L"There is no need to add this program in the List. To run Morvane's program that you already have, "
+             L"type \"r.\" as CommandCode and the program name (such as, \"Quillstart\") as LaunchName and press "
+             L"enter on your keyboard." +
+             CRLF + CRLF + L"Here is an example:" + CRLF + CRLF +
+             L"To launch \"Quillstart\" type \"r.Quillstart\" and press \"Enter\" key.");
+     }},
+    {L"WrongPathToAdd",
+     [](const std::wstring&) -> ProcessMessage {
+         return Plain(
+             L"To add a Program, File or Folder in your Launch List, those must be on a Fixed Drive or on the same "
+             L"Drive that Quillstart is running from. The selected item is not, so it can't be added.");
+     }},
+    {L"MessagePathAlreadyListed",
+     [](const std::wstring& duplicateItemName) -> ProcessMessage {
+         return Plain(L"Selected item has already been included in the List. Launch Name of the selected item is:" +
+                      CRLF + CRLF + duplicateItemName);
+     }},
+    {L"MessageNameAlreadyListed",
+     [](const std::wstring&) -> ProcessMessage {
+         return Plain(
+             L"The name you typed is listed name for another item in it's group." + CRLF + CRLF +
+             L"Two different items in the same group (Groups : Program, File, Folder, Web Page, Email Address) "
+             L"can't be listed with same name. Type a different name please.");
+     }},
+    {L"MessageDriveNotReady",
+     [](const std::wstring&) -> ProcessMessage { return Plain(L"The Drive you are trying to select is not ready."); }},
+    {L"MessageExePathNotFound",
+     [](const std::wstring&) -> ProcessMessage {
+         return Plain(L"Could not find the Path of the selected Program, reason undetermined." + CRLF +
+                      L"It can not be added to List.");
+     }},
+    {L"MessageShortcutCreated",
+     [](const std::wstring&) -> ProcessMessage {
+         return Plain(L"A shortcut of Quillstart has been created and placed on your Desktop.");
+     }},
+    {L"MessageShortcutDeleted",
+     [](const std::wstring&) -> ProcessMessage {
+         return Plain(L"Shortcut of Quillstart has been deleted from your Desktop.");
+     }},
+    {L"MessageGetUserName",
+     [](const std::wstring&) -> ProcessMessage {
+         return {
+             L"Your Name Please",
+             L"Thank you for trying Quillstart." + CRLF + CRLF +
+                 L"Just to become friends you can type your name above - completely optional! If you do, please use "
+                 L"only alphabets." +
+                 CRLF + CRLF + L"morvane" + CRLF + maker::MailAddress,
+             L"Cancel", L"Input012"};
+     }},
+    {L"MessageChangeUserName",
+     [](const std::wstring&) -> ProcessMessage {
+         return {L"New Name Please", L"Please type your name above. Use only alphabets please.", L"OKCancel",
+                 L"Input012"};
+     }},
+};
 
 }  // namespace
 
 std::optional<std::wstring> FatalMessageBody(const std::wstring& key) {
-    for (const auto& [name, body] : FatalTable())
-        if (name == key) return body;
+    for (const FatalEntry& entry : FatalTable)
+        if (key == entry.key) return entry.body();
     return std::nullopt;
 }
 
 std::optional<ProcessMessage> OrdinaryMessage(const std::wstring& key, const std::wstring& duplicateItemName) {
-    for (const auto& [name, message] : OrdinaryTable(duplicateItemName))
-        if (name == key) return message;
+    for (const OrdinaryEntry& entry : OrdinaryTable)
+        if (key == entry.key) return entry.message(duplicateItemName);
     return std::nullopt;
 }
 

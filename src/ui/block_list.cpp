@@ -89,8 +89,13 @@ void BlockList::Erase(std::int32_t index) {
 }
 
 void BlockList::Clear() {
-    blocks_.clear();
-    starts_.clear();
+    // The first block stays, emptied, with its room: a list cleared to be
+    // filled again grows its first block anew only past what it held.
+    if (blocks_.size() > 1) {
+        blocks_.resize(1);
+        starts_.resize(1);
+    }
+    if (!blocks_.empty()) blocks_.front().clear();
     size_ = 0;
     Changed();
 }

@@ -1,6 +1,7 @@
 #include "ui/text_box.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace qs::ui {
 
@@ -42,9 +43,15 @@ std::int16_t TextBox::UserKeyPress(wchar_t key) {
 }
 
 void TextBox::ReplaceSelection(const std::wstring& with) {
-    std::wstring next = text_;
-    next.replace(static_cast<std::size_t>(selStart_), static_cast<std::size_t>(selLength_), with);
-    UserEdited(next, selStart_ + static_cast<std::int32_t>(with.size()), 0);
+    // As UserEdited, but in place, since every key typed comes this way: the
+    // text changes exactly when the selection did not already hold `with`.
+    const auto start = static_cast<std::size_t>(selStart_);
+    const auto length = static_cast<std::size_t>(selLength_);
+    const bool changed = std::wstring_view(text_).substr(start, length) != with;
+    text_.replace(start, length, with);
+    selStart_ += static_cast<std::int32_t>(with.size());
+    selLength_ = 0;
+    if (changed) Fire(Change);
 }
 
 void TextBox::TypeKey(wchar_t key) {

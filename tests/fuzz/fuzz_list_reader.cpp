@@ -3,10 +3,10 @@
 // loader's bug report, and the lists saved afterwards load back unchanged.
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 #include "common/text_case.h"
 #include "data/launch_list.h"
+#include "data/list_files.h"
 #include "kept_application.h"
 
 namespace {
@@ -48,10 +48,12 @@ bool HoldsQuote(const qs::ui::ListBox& list) {
     return false;
 }
 
-std::vector<std::wstring> Entries(const qs::ui::ListBox& list) {
-    std::vector<std::wstring> out;
-    for (std::int32_t i = 0; i < list.ListCount(); ++i) out.emplace_back(list.List(i));
-    return out;
+// The same entries in the same order, compared in place.
+bool SameEntries(const qs::ui::ListBox& a, const qs::ui::ListBox& b) {
+    if (a.ListCount() != b.ListCount()) return false;
+    for (std::int32_t i = 0; i < a.ListCount(); ++i)
+        if (a.List(i) != b.List(i)) return false;
+    return true;
 }
 
 // A target exists when its length is odd: a fixed rule that lets inputs
@@ -88,7 +90,11 @@ void RequireRoundTrip(qs::fuzz::MemorySystem& sys, qs::Application& app, std::in
     }
     qs::fuzz::KeptApplication& back = LoadingBack();
     back.sys.exists = OddLength;
-    back.sys.files = sys.files;
+    // The loader reads back only the file just saved.
+    const std::wstring& saved = flash ? qs::FlashSideFile(app, group) : ComputerFile(app, group);
+    const auto written = sys.files.find(saved);
+    Require(written != sys.files.end());
+    back.sys.files[saved] = written->second;
     qs::Application& again = back.app;
     again.place = app.place;
     if (flash) {
@@ -101,8 +107,8 @@ void RequireRoundTrip(qs::fuzz::MemorySystem& sys, qs::Application& app, std::in
                                     : flash ? again.frmHid.ComboUSBItemName(slot) : again.frmHid.ComboHDDItemName(slot);
     const qs::ui::ListBox& paths2 = shared ? again.frmChoose.ComboListItemPath(slot)
                                     : flash ? again.frmHid.ComboUSBItemPath(slot) : again.frmHid.ComboHDDItemPath(slot);
-    Require(Entries(names2) == Entries(names));
-    Require(Entries(paths2) == Entries(paths));
+    Require(SameEntries(names2, names));
+    Require(SameEntries(paths2, paths));
     back.EndInput();
 }
 
@@ -128,7 +134,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     std::wstring routine;
     if (flash) {
-        sys.files[app.place.FileListUsbFile] = sys.files[app.place.FileListUsbFold] = sys.files[app.place.FileListUsbProg] = file;
+        sys.files[qs::FlashSideFile(app, group)] = file;
         qs::ActionLaunchListGetUSB(app, group, lastIndex);
         routine = L"Quillstart:Bug:ActionLaunchListGetUSB";
     } else {

@@ -86,12 +86,7 @@ public:
 };
 
 // Input bytes as the 8-bit code page gives them.
-inline std::wstring FromBytes(const std::uint8_t* data, std::size_t size) {
-    std::wstring text;
-    text.reserve(size);
-    for (std::size_t i = 0; i < size; ++i) text.push_back(static_cast<wchar_t>(data[i]));
-    return text;
-}
+inline std::wstring FromBytes(const std::uint8_t* data, std::size_t size) { return std::wstring(data, data + size); }
 
 // A check that must hold for every input.
 inline void Require(bool condition) {

@@ -96,6 +96,16 @@ TEST_F(FamilyRun, KinfoldMissingIsAFirstStartWhateverGuruHolds) {
     EXPECT_EQ(GuruBytes(), GuruLine("Quillstart", "C:\\Tools\\", "QSLauncher", "226151102"));
 }
 
+TEST_F(FamilyRun, GuruMissingJoinsBehindALargeGuruLastWithAnEmptyRecordForEveryPositionBefore) {
+    t.sys.PutFile(t.app.place.FileKinfold, Kinfold(29999));
+    EXPECT_TRUE(FamilyStart(t.app));
+    EXPECT_EQ(t.app.FamilyMemberCount, 30000);
+    std::string expected;
+    for (int i = 0; i < 30000; ++i) expected += "\"\",\"\",0,\"\"\r\n";
+    expected += GuruLine("Quillstart", "C:\\Tools\\", "QSLauncher", "226151102");
+    EXPECT_EQ(GuruBytes(), expected);
+}
+
 TEST_F(FamilyRun, GuruMissingJoinsBehindGuruLastWithEmptyRecordsBeforeAndTheNextStartJoinsAtZero) {
     t.sys.PutFile(t.app.place.FileKinfold, Kinfold(2));
     EXPECT_TRUE(FamilyStart(t.app));

@@ -55,4 +55,20 @@ TEST(RecordWriterTest, WritesQuotedStringsPlainNumbersAndCrLf) {
     EXPECT_EQ(w.Text(), L"10\r\n\"\"\r\n\"n\",\"C:\\x\",-1\r\n");
 }
 
+TEST(RecordWriterTest, RoomMadeAheadLeavesTheTextAsWritten) {
+    RecordWriter plain;
+    RecordWriter ahead;
+    ahead.Reserve(4);
+    for (RecordWriter* w : {&plain, &ahead}) {
+        w->String(L"name").Integer(226151102).EndLine();
+        if (w == &ahead) w->Reserve(1000);
+        w->String(L"").String(L"C:\\Tools\\").EndLine();
+    }
+    EXPECT_EQ(ahead.Text(), plain.Text());
+    EXPECT_EQ(ahead.Text(), L"\"name\",226151102\r\n\"\",\"C:\\Tools\\\"\r\n");
+    // Writing goes on after the text was read.
+    ahead.Integer(7).EndLine();
+    EXPECT_EQ(ahead.Text(), plain.Text() + L"7\r\n");
+}
+
 }  // namespace

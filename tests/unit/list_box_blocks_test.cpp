@@ -80,6 +80,28 @@ TEST(ListBoxBlocks, UnsortedListInsertsAtAnyPositionAcrossBlockBoundaries) {
     EXPECT_TRUE(list.Items().empty());
 }
 
+TEST(ListBoxBlocks, AClearedListFillsAgainAcrossBlocksAsANewOne) {
+    qs::ui::Form form{L"frmTest", qs::ui::FormStyle::Borderless};
+    ListBox list{form, L"ComboX", true};
+    std::mt19937 rng(3);
+    for (int round = 0; round < 3; ++round) {
+        Model model;
+        // Several blocks' worth, then a short list, then several again.
+        const int count = round == 1 ? 5 : 1500;
+        for (int i = 0; i < count; ++i) {
+            const std::wstring text = RandomText(rng);
+            ASSERT_EQ(list.AddItem(text), model.Add(text));
+        }
+        ASSERT_EQ(list.Items(), model.items);
+        for (std::int32_t i = 0; i < list.ListCount(); ++i)
+            ASSERT_EQ(list.List(i), model.items[static_cast<std::size_t>(i)]);
+        list.Clear();
+        EXPECT_EQ(list.ListCount(), 0);
+        EXPECT_TRUE(list.Items().empty());
+        EXPECT_THROW(list.List(0), qs::SubscriptOutOfRange);
+    }
+}
+
 TEST(ListBoxBlocks, ItemsSeesEveryChangeAfterItWasRead) {
     qs::ui::Form form{L"frmTest", qs::ui::FormStyle::Borderless};
     ListBox list{form, L"ComboX", true};

@@ -86,6 +86,22 @@ TEST_F(ListLoad, FileShorterThanCounterShowsBugOnceAndKeepsRecordsRead) {
     EXPECT_TRUE(BugShown(t, L"Quillstart:Bug:ActionLaunchListGet"));
 }
 
+TEST_F(ListLoad, ALoaderAskedForAnIndexBelowMinusOneShowsItsBugAndAddsNothing) {
+    t.sys.PutFile(t.app.place.FileListWeb, ListFileBytes({{"a", "http://a.example"}}));
+    ActionLaunchListGet(t.app, 4, -2);
+    EXPECT_EQ(MergedNames(t, 4).ListCount(), 0);
+    EXPECT_EQ(BugCount(t), 1);
+    EXPECT_TRUE(BugShown(t, L"Quillstart:Bug:ActionLaunchListGet"));
+}
+
+TEST_F(ListLoad, AShortFileReadUpToAFarLastIndexGivesTheRecordsItHolds) {
+    t.sys.PutFile(t.app.place.FileListWeb, ListFileBytes({{"a", "http://a.example"}, {"b", "http://b.example"}}));
+    ActionLaunchListGet(t.app, 4, 32000);
+    EXPECT_EQ(Entries(MergedNames(t, 4)), (Names{L"a", L"b"}));
+    EXPECT_EQ(Entries(MergedPaths(t, 4)), (Names{L"http://a.example", L"http://b.example"}));
+    EXPECT_TRUE(BugShown(t, L"Quillstart:Bug:ActionLaunchListGet"));
+}
+
 TEST_F(ListLoad, FileLongerThanCounterExtraRecordsAreNeverReadAndVanishAtNextSave) {
     t.sys.PutFile(t.app.place.FileListMail,
                   ListFileBytes({{"ann", "ann@a.example"}, {"bob", "bob@a.example"}, {"cy", "cy@a.example"}}));

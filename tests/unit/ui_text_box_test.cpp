@@ -61,6 +61,38 @@ TEST_F(Box, TypingReplacesTheSelection) {
     EXPECT_EQ(box.SelStart(), 4);
 }
 
+TEST_F(Box, TypingOverASelectionOfTheSameCharacterFiresNoChange) {
+    box.SetText(L"abc");
+    changes = 0;
+    box.SetSelStart(1);
+    box.SetSelLength(1);
+    box.TypeKey(L'b');
+    EXPECT_EQ(box.Text(), L"abc");
+    EXPECT_EQ(changes, 0);
+    EXPECT_EQ(box.SelStart(), 2);
+    EXPECT_EQ(box.SelLength(), 0);
+    // The same key over a different selection of the same length changes it.
+    box.SetSelStart(0);
+    box.SetSelLength(1);
+    box.TypeKey(L'b');
+    EXPECT_EQ(box.Text(), L"bbc");
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(Box, ChangeOfATypedKeySeesTheNewTextAndCaret) {
+    box.SetText(L"ac");
+    box.SetSelStart(1);
+    std::wstring seen;
+    std::int32_t caret = -1;
+    box.Change = [&] {
+        seen = box.Text();
+        caret = box.SelStart();
+    };
+    box.TypeKey(L'b');
+    EXPECT_EQ(seen, L"abc");
+    EXPECT_EQ(caret, 2);
+}
+
 TEST_F(Box, BackspaceRemovesSelectionOrCharacterBeforeCaret) {
     box.SetText(L"abcd");
     box.SetSelStart(2);
