@@ -6,6 +6,7 @@
 #include <string>
 
 #include "data/launch_list.h"
+#include "sample_items.h"
 #include "data_setup.h"
 #include "test_app.h"
 
@@ -39,16 +40,7 @@ struct ChooseApp : TestApp {
     }
     // Two items in every group.
     void FillAllGroups() {
-        Add(0, L"notes", L"C:\\Docs\\notes.txt");
-        Add(0, L"plan", L"C:\\Docs\\plan.doc");
-        Add(1, L"docs", L"C:\\Docs");
-        Add(1, L"music", L"C:\\Music");
-        Add(2, L"editor", L"C:\\Apps\\editor.exe");
-        Add(2, L"player", L"C:\\Apps\\player.exe");
-        Add(3, L"anna", L"anna@example.com");
-        Add(3, L"ben", L"ben@example.com");
-        Add(4, L"news", L"http://news.example/");
-        Add(4, L"search", L"http://search.example/");
+        for (const SampleItem& item : TwoItemsInEveryGroup) Add(item.group, item.name, item.target);
     }
     void OpenPane() { app.frmMain.PictureMenu(2).Press(); }
     void ShowGroup(std::int16_t group) { pane().ImageShowList(group).Press(); }

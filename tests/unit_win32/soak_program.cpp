@@ -4,6 +4,7 @@
 #include "control_window.h"
 #include "data/launch_list.h"
 #include "data_setup.h"
+#include "sample_items.h"
 #include "theme/active_theme.h"
 #include "window_test_support.h"
 
@@ -82,16 +83,7 @@ SoakProgram::SoakProgram() {
                                 L"C:\\Apps\\editor.exe", L"C:\\Apps\\player.exe", L"C:\\Windows\\explorer.exe"}) {
         sys.PutFile(file);
     }
-    Add(0, L"notes", L"C:\\Docs\\notes.txt");
-    Add(0, L"plan", L"C:\\Docs\\plan.doc");
-    Add(1, L"docs", L"C:\\Docs");
-    Add(1, L"music", L"C:\\Music");
-    Add(2, L"editor", L"C:\\Apps\\editor.exe");
-    Add(2, L"player", L"C:\\Apps\\player.exe");
-    Add(3, L"anna", L"anna@example.com");
-    Add(3, L"ben", L"ben@example.com");
-    Add(4, L"news", L"http://news.example/");
-    Add(4, L"search", L"http://search.example/");
+    for (const SampleItem& item : TwoItemsInEveryGroup) Add(item.group, item.name, item.target);
     // The QuickLauncher learns at its load which groups have items.
     app.frmQuick.Load();
     ThemeCreate(app, app.settings.ThemeIndex);
