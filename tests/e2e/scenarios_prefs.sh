@@ -35,6 +35,17 @@ prefs_set_is() {
 prefs_start_plain_light() { prefs_seed 41 8 0 && e2e_start_quillstart; }
 prefs_start_light() { prefs_seed 57 8 0 && e2e_start_quillstart; }
 
+# As prefs_start_light, with one web address in the Launch List, so that the
+# QuickLauncher has an item and shows.
+prefs_start_light_with_a_web_item() {
+  local shared
+  shared="$(e2e_drive_dir C)/$PREFS_DATA"
+  prefs_seed 57 8 0 || return 1
+  e2e_write_lines "$shared/COMData.Morvane" 2 -1 0
+  e2e_seed_list "$shared/ListWeb.Morvane" 'news=http://news.example/'
+  e2e_start_quillstart
+}
+
 # Reads the shown children of the pane titled TITLE, with their states, into
 # E2E_CHILDREN and the pane's screen rectangle into PANE_RECT; fails when
 # that pane is not in front.
@@ -147,27 +158,47 @@ prefs_font_saved_for_the_next_start() {
   prefs_box_is 12 1 1 || prefs_box_fail 12 1 1 'after the restart'
 }
 
-# The form colour of a theme in the gap of the bar and in the pane, where a
-# box's row lies blank right of its caption.
+PREFS_QUICK_BARE=""
+
+# The place of the QuickLauncher's bare face, found once it shows.
+prefs_quick_bare() {
+  PREFS_QUICK_BARE=$(wine "$E2E_TOOLS/children.exe" QuillstartBorderless --title QuickLaunch --bare 2>/dev/null |
+    tr -d '\r' | sed -n 's/^bare=//p')
+  [ -n "$PREFS_QUICK_BARE" ]
+}
+
+prefs_quick_uncovered() {
+  local l t r b x=${PREFS_QUICK_BARE%,*} y=${PREFS_QUICK_BARE#*,}
+  IFS=, read -r l t r b <<<"$PANE_RECT"
+  [ "$x" -lt "$l" ] || [ "$x" -ge "$r" ] || [ "$y" -lt "$t" ] || [ "$y" -ge "$b" ]
+}
+
+# The form colour of a theme in the gap of the bar, on the QuickLauncher's
+# bare face and in the pane, where a box's row lies blank right of its
+# caption.
 prefs_theme_shown() {
-  local expected=${THEME_FORM_COLORS[$1]} id bar pane l t r b row
+  local expected=${THEME_FORM_COLORS[$1]} id bar quick pane l t r b row
   id=$(xdotool search --onlyvisible --name '^Quillstart$' | head -1)
   eval "$(xdotool getwindowgeometry --shell "$id")"
   bar=$(screen_pixel $((X + 36)) $((Y + 11)))
+  # The QuickLauncher counts while it is open.
+  quick=$expected
+  [ -z "$PREFS_QUICK_BARE" ] || quick=$(screen_pixel "${PREFS_QUICK_BARE%,*}" "${PREFS_QUICK_BARE#*,}")
   prefs_shown || return 1
   row=$(awk -F'\t' '$1 == "child=Button" && $2 == 1 && $4 == "Start Minimized On Screen" { print $3; exit }' \
     <<<"$E2E_CHILDREN")
   IFS=, read -r l t r b <<<"$row"
   pane=$(screen_pixel $((r - 8)) $(((t + b) / 2)))
-  PREFS_SEEN="bar #$bar, pane #$pane"
-  [ "$bar" = "$expected" ] && [ "$pane" = "$expected" ]
+  PREFS_SEEN="bar #$bar, QuickLauncher #$quick, pane #$pane"
+  [ "$bar" = "$expected" ] && [ "$quick" = "$expected" ] && [ "$pane" = "$expected" ]
 }
 
 # A box ticked and left unsaved stays ticked for the run and is gone after
-# a restart; each theme recolours the bar and the pane at once, and the last
-# one is kept by an exit with no Save.
+# a restart; each theme recolours the bar, an open QuickLauncher and the
+# pane at once, and the last one is kept by an exit with no Save.
 prefs_unsaved_for_the_run_themes_at_once() {
   local box='  Show Add URL Box At Start' theme
+  PREFS_QUICK_BARE=""
   prefs_open || return 1
   prefs_click "$box" Button || return 1
   qs_poll 5 prefs_box_is "$box" 1 1 || prefs_box_fail "$box" 1 1 || return 1
@@ -175,7 +206,12 @@ prefs_unsaved_for_the_run_themes_at_once() {
   prefs_click Close || return 1
   qs_poll 10 prefs_gone || e2e_fail "the pane's close button did not close it" || return 1
   e2e_expect_box_focus "closing the Preferences pane by its close button" || return 1
+  # The QuickLauncher first: showing it closes a pane, opening a pane leaves
+  # it. Its bare face is read before the pane may cover part of it.
+  bar_click PictureShowQuick || return 1
+  qs_poll 10 prefs_quick_bare || e2e_fail "the QuickLauncher did not show" || return 1
   prefs_open || return 1
+  prefs_quick_uncovered || e2e_fail "the pane covers the QuickLauncher's bare face at $PREFS_QUICK_BARE" || return 1
   prefs_box_is "$box" 1 1 || prefs_box_fail "$box" 1 1 'on opening again' || return 1
   pane_label_shown Preferences "$PREFS_DIRTY" || e2e_fail "the pending change no longer asks for Save" || return 1
   for theme in 1 2 3 4 5 0 6; do
@@ -188,6 +224,7 @@ prefs_unsaved_for_the_run_themes_at_once() {
   qs_poll 10 prefs_gone || e2e_fail "the bar's P button did not close the pane" || return 1
   e2e_expect_box_focus "closing the Preferences pane by its button on the bar" || return 1
   e2e_exit_by_button || return 1
+  PREFS_QUICK_BARE=""
   prefs_set_is 57 8 6 || return 1
   e2e_start_quillstart || return 1
   prefs_open || return 1
@@ -414,8 +451,8 @@ panes_inside() {
 
 e2e_scenario 'Preferences: bold and 12 points act at once on the Command box, Save keeps them for the next start' \
   prefs_font_saved_for_the_next_start prefs_start_plain_light
-e2e_scenario 'Preferences: an unsaved tick lasts the run only; each theme recolours bar and pane, the exit keeps it' \
-  prefs_unsaved_for_the_run_themes_at_once prefs_start_light
+e2e_scenario 'Preferences: an unsaved tick lasts the run only; each theme recolours the bar, an open QuickLauncher and the pane, the exit keeps it' \
+  prefs_unsaved_for_the_run_themes_at_once prefs_start_light_with_a_web_item
 e2e_scenario 'Preferences: Start With Windows saved writes and deletes the Run value, and is greyed on a flash drive' \
   prefs_start_with_windows prefs_start_without_autostart
 e2e_scenario 'Code And Command: "w" and ";" chosen show their example and text; "g" and "." empty them' \
