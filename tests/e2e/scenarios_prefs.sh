@@ -361,6 +361,7 @@ CODE_START_EXPLANATION='Select 1st and 2nd char. of Command Code in the above Co
 # the second by the pointer; reads the explanations, the example and its
 # text; then "g" and "." empty the example and its text.
 code_pane_explains_w_semicolon() {
+  PREFS_QUICK_BARE=""
   code_open || return 1
   e2e_expect_box_focus 'opening the Code And Command pane' || return 1
   pane_shot light
