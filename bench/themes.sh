@@ -1,7 +1,7 @@
 # Theme-switch benchmark: what a click on one of the Preferences pane's seven
 # colour options costs in the real Quillstart.exe under Wine, with every
 # window that can stand open at once on screen (the bar, the QuickLauncher
-# with a full page and frmChoose with the Preferences pane in front; the Add
+# showing ten items and frmChoose with the Preferences pane in front; the Add
 # Item and Open panes have been shown and hidden, so their window exists and
 # is recoloured too). Each click is timed from the click until every shown
 # window of the program has painted what it changed (bench/panetool.exe
