@@ -467,6 +467,9 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             MoveWithPointer(window);
             return 0;
         case WM_LBUTTONUP:
+            // A press that ended without a drag leaves no place behind for a
+            // later drag to start from.
+            NotePress(nullptr, {});
             if (::GetCapture() == window) ::ReleaseCapture();
             break;
         case WM_WINDOWPOSCHANGED: {
