@@ -16,6 +16,14 @@ E2E_STARTS=()
 # Registers a scenario. Usage: e2e_scenario NAME FUNCTION [START]
 # START prepares the data files and starts Quillstart; by default the program
 # finds itself known on this computer (no first start) and its bar comes up.
+# Stops Wine and the display and removes the run's work folder: the end of
+# every script that drives a session.
+e2e_end_session() {
+  qs_stop_wine
+  qs_stop_display
+  rm -rf "$E2E_WORK"
+}
+
 e2e_scenario() {
   E2E_SCENARIOS+=("$1")
   E2E_FUNCTIONS+=("$2")

@@ -70,12 +70,7 @@ source tests/e2e/scenarios_pointer.sh
 # shellcheck source=scenarios_help.sh
 source tests/e2e/scenarios_help.sh
 
-finish() {
-  qs_stop_wine
-  qs_stop_display
-  rm -rf "$E2E_WORK"
-}
-trap finish EXIT
+trap e2e_end_session EXIT
 
 rm -rf "$E2E_ARTIFACTS"
 mkdir -p "$E2E_ARTIFACTS"

@@ -40,12 +40,7 @@ source tests/e2e/lib.sh
 # shellcheck source=data.sh
 source tests/e2e/data.sh
 
-finish() {
-  qs_stop_wine
-  qs_stop_display
-  rm -rf "$E2E_WORK"
-}
-trap finish EXIT
+trap e2e_end_session EXIT
 
 # Keeps the screen, the launch log, what the box holds and where the keyboard
 # focus is in build/soak-artifacts/. Usage: keep_evidence LABEL
