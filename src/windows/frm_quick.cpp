@@ -179,4 +179,8 @@ std::int16_t FrmQuick::GroupCount(std::int16_t group) const {
     return ToInt16(app_.frmChoose.ComboListItemName(group).ListCount());
 }
 
+bool FrmQuick::GroupHasItems(std::int16_t group) const {
+    return app_.frmChoose.ComboListItemName(group).ListCount() > 0;
+}
+
 }  // namespace qs

@@ -102,6 +102,9 @@ private:
     void WireEvents();
     // The group's item count, 16-bit as the lists are counted.
     std::int16_t GroupCount(std::int16_t group) const;
+    // Whether the group's list holds an item: asked without counting, so a
+    // merged list longer than a count can hold still answers.
+    bool GroupHasItems(std::int16_t group) const;
     // Button i blank and hidden, its label "xx".
     void ShowEmptyButton(std::int16_t i);
     // Button i showing the item at `item` of QuickGroup.

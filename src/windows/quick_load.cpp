@@ -23,7 +23,7 @@ void FrmQuick::FormLoad() {
 void FrmQuick::ShowGroupsWithItems() {
     bool anyItem = false;
     for (std::int16_t g = 0; g < ImageQuickChoice.Count(); ++g) {
-        const bool hasItems = GroupCount(g) > 0;
+        const bool hasItems = GroupHasItems(g);
         ImageQuickChoice(g).SetVisible(hasItems);
         anyItem = anyItem || hasItems;
     }

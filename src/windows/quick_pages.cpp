@@ -65,7 +65,7 @@ void FrmQuick::ImageQuickChoiceClick(std::int16_t index) {
     const std::int16_t t = app_.settings.ThemeIndex;
     for (std::int16_t g = 0; g < ImageQuickChoice.Count(); ++g) {
         ui::PictureBox& choice = ImageQuickChoice(g);
-        const bool empty = GroupCount(g) == 0;
+        const bool empty = !GroupHasItems(g);
         choice.SetVisible(g != index && !empty);
         if (empty) {
             choice.SetPicture(BlankPicture());

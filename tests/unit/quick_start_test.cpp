@@ -41,4 +41,24 @@ TEST(QuickStart, ListsWhoseTargetsAreStillTestedAtLoadShowTheirGroupsOnceWhole) 
     EXPECT_TRUE(t.bar().PictureShowQuick.Enabled());
 }
 
+TEST(QuickStart, AMergedListLongerThanACountHoldsStillShowsItsGroupAtLoadAndOnceWhole) {
+    QuickApp t;
+    // A flash drive's items merged into the computer's can pass 32,767; the
+    // group buttons ask only whether a list holds an item.
+    std::string bytes;
+    for (int i = 0; i <= 32767; ++i) bytes += "\"n" + std::to_string(i) + "\",\"m" + std::to_string(i) + "@x\"\r\n";
+    t.sys.PutFile(t.app.place.FileListMail, bytes);
+    t.app.settings.EmailLast = 32767;
+    t.dialogs.holdInputWork = true;
+    qs::LaunchListLoad(t.app);
+    t.LoadQuick();
+    EXPECT_FALSE(t.quick().ImageQuickChoice(3).Visible());
+    ASSERT_TRUE(t.dialogs.RunHeldWork());
+    ASSERT_EQ(t.app.frmChoose.ComboListItemName(3).ListCount(), 32768);
+    EXPECT_TRUE(t.quick().ImageQuickChoice(3).Visible());
+    EXPECT_TRUE(t.bar().PictureShowQuick.Enabled());
+    t.quick().Load();
+    EXPECT_TRUE(t.quick().ImageQuickChoice(3).Visible());
+}
+
 }  // namespace
