@@ -1,4 +1,5 @@
 // Keystrokes and double clicks of the Command box.
+#include "command/tables.h"
 #include "common/application.h"
 #include "common/failure.h"
 #include "common/text_case.h"
@@ -7,13 +8,24 @@
 
 namespace qs {
 
+void FrmMain::SettleListsForKey(std::int16_t key) {
+    const std::wstring& text = TextMain.Text();
+    const std::int16_t group = key == 13 && text.size() > 2 ? GroupOfListCode(LCase(text.substr(0, 2))) : -1;
+    if (group >= 0) {
+        LaunchListSettleGroup(app_, group);
+    } else {
+        LaunchListSettle(app_);
+    }
+}
+
 void FrmMain::TextMainKeyPress(std::int16_t& key) {
     try {
         // Keys reach the box before the lists are whole; a character and
         // Backspace only change the text, whose search waits for its own
-        // group, but Enter, Esc and the other control keys act on the lists
-        // and the panes, which wait for every group.
-        if (key < 32 && key != 8) LaunchListSettle(app_);
+        // group, and Enter on a Command of a list group launches from that
+        // group alone, but Esc, the other Commands and control keys act on
+        // the lists and the panes, which wait for every group.
+        if (key < 32 && key != 8) SettleListsForKey(key);
         switch (key) {
             case 8:
                 BackspaceTyped = true;

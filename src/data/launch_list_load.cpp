@@ -158,15 +158,22 @@ void LaunchListLoad(Application& app) {
     auto load = std::make_unique<PendingListLoad>();
     load->reads = ReadsForLoad(app);
     for (std::size_t i = 0; i < load->reads->Files().size(); ++i) TakeFile(app, *load, i);
+    ListFileReads& reads = *load->reads;
     app.pendingListLoad = std::move(load);
     // The bar may show while the targets are tested; nothing the user does
     // reaches a form before the lists are whole.
     ui::Backend* const windows = app.backend;
-    if (windows != nullptr) {
-        windows->RunBeforeInput([&app] { LaunchListSettle(app); });
-    } else {
+    if (windows == nullptr) {
         LaunchListSettle(app);
+        return;
     }
+    // The tests begin once the windows shown first are drawn, unless input
+    // asks for their answers sooner; the load they belong to may be settled
+    // by then.
+    windows->RunWhenIdle([&app, &reads] {
+        if (app.pendingListLoad && app.pendingListLoad->reads.get() == &reads) reads.AllowTests();
+    });
+    windows->RunBeforeInput([&app] { LaunchListSettle(app); });
 }
 
 void LaunchListSettle(Application& app) {

@@ -46,7 +46,23 @@ void ListFileReads::Run() {
         if (finished_) finished_();
         return;
     }
+    WaitUntilTestsAllowed();
     TestUntakenFiles();
+}
+
+void ListFileReads::AllowTests() {
+    {
+        const std::lock_guard<std::mutex> lock(mutex_);
+        if (testsAllowed_) return;
+        testsAllowed_ = true;
+    }
+    marks::Mark("list tests allowed");
+    testsAllowedChanged_.notify_all();
+}
+
+void ListFileReads::WaitUntilTestsAllowed() {
+    std::unique_lock<std::mutex> lock(mutex_);
+    testsAllowedChanged_.wait(lock, [this] { return testsAllowed_; });
 }
 
 bool ListFileReads::ReadUntakenFile() {
@@ -104,6 +120,7 @@ void ListFileReads::TestTaken(std::size_t i) {
 
 void ListFileReads::WaitFor(std::size_t i) {
     if (i >= files_.size()) throw std::out_of_range("ListFileReads::WaitFor");
+    AllowTests();
     // The files are read first, as the testing needs them; then the waiting
     // thread tests this file itself unless another thread has taken it,
     // and waits for no other file's answers.
@@ -140,10 +157,11 @@ const std::optional<ReadRecords>& ListFileReads::Records(std::size_t i) {
         {
             std::unique_lock<std::mutex> lock(mutex_);
             if (read_[i]) break;
-            // A file being read elsewhere is waited for; while files up to
-            // this one are still untaken, the waiting thread reads them
-            // itself, on a core of its own, in the order they are taken.
-            if (nextRead_.load() > i) {
+            // While a file is left untaken, the waiting thread reads it
+            // itself, on a core of its own, in the order they are taken,
+            // so that the reading goes on beside the file being read
+            // elsewhere; with none left, that file is waited for.
+            if (nextRead_.load() >= files_.size()) {
                 fileRead_.wait(lock, [this, i] { return read_[i]; });
                 break;
             }
@@ -157,6 +175,7 @@ const std::optional<ReadRecords>& ListFileReads::Records(std::size_t i) {
 void ListFileReads::Wait() {
     // The waiting thread has nothing else to do: it reads and then tests
     // the files the reading thread has not taken yet, on a core of its own.
+    AllowTests();
     while (ReadUntakenFile()) {
     }
     WaitUntilAllRead();

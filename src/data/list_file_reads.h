@@ -1,13 +1,15 @@
 #pragma once
 // The files of one list load, read and tested on one thread of their own,
 // so that the windows can be made and shown meanwhile. The thread takes the
-// files in the load's order and reads them, then asks the system, in one
-// bulk call per file, whether the File, Folder and Program targets are
-// there. The load takes each file as soon as it is read, in its own order,
-// and the answers once they are all in; one thread, because the window
-// thread needs the other core of a small machine while it makes the
-// windows. A thread that waits for a file reads the files not yet taken
-// meanwhile, and one that waits for the answers tests them.
+// files in the load's order and reads them, then, once the tests are
+// allowed, asks the system, in one bulk call per file, whether the File,
+// Folder and Program targets are there. The load takes each file as soon as
+// it is read, in its own order, and the answers once they are all in; one
+// thread, because the window thread needs the other core of a small machine
+// while it makes the windows, and the tests wait until the windows shown
+// first are drawn for the same reason. A thread that waits for a file reads
+// the files not yet taken meanwhile, and one that waits for the answers
+// allows the tests and tests files itself.
 #include <atomic>
 #include <condition_variable>
 #include <cstddef>
@@ -36,6 +38,9 @@ public:
     ~ListFileReads();
 
     const std::vector<ListFileOfLoad>& Files() const { return files_; }
+    // Lets the thread go on from reading to testing; until then it waits
+    // with the files read. Waiting for answers allows the tests too.
+    void AllowTests();
     // Waits until file `i` is read: its records, or none when there was no
     // such file; throws what the reading threw.
     const std::optional<ReadRecords>& Records(std::size_t i);
@@ -60,6 +65,7 @@ private:
     // Takes the next file not yet taken and reads it; false when none is left.
     bool ReadUntakenFile();
     void WaitUntilAllRead();
+    void WaitUntilTestsAllowed();
     void Read(std::size_t i);
     void Test(std::size_t i);
     // Tests file after file not yet taken by another thread, until none is left.
@@ -82,6 +88,8 @@ private:
     std::vector<bool> read_;
     std::size_t filesRead_ = 0;
     std::atomic<std::size_t> nextRead_ = 0;
+    bool testsAllowed_ = false;
+    std::condition_variable testsAllowedChanged_;
     // Which files are taken for testing and which have their answers, and
     // how many are not yet answered.
     std::vector<bool> taken_;

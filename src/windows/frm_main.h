@@ -128,6 +128,10 @@ public:
 private:
     void TextMainChangeSearch(const std::wstring& text);
     void ListSearch(std::wstring& rawCode, std::wstring& typed, std::int16_t group);
+    // Before a control key acts while the lists are still being filled:
+    // Enter on a Command of a list group waits for that group alone, any
+    // other for every group.
+    void SettleListsForKey(std::int16_t key);
     void PlaceControls();
     void WireEvents();
     // Closes an open pane from Help: both panes hidden, the pushed Top undone.

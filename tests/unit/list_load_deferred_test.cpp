@@ -187,7 +187,15 @@ struct GatedSystem : FakeSystem {
     std::condition_variable opened;
     std::set<std::wstring> open;
     bool allOpen = false;
+    // Bulk file tests begun, and their beginning told.
+    int calls = 0;
+    std::condition_variable called;
     std::vector<bool> FilesExist(const std::vector<std::wstring_view>& paths) override {
+        {
+            const std::lock_guard<std::mutex> lock(mutex);
+            ++calls;
+        }
+        called.notify_all();
         if (!paths.empty()) {
             const std::wstring folder(paths[0].substr(0, paths[0].find_last_of(L'\\')));
             std::unique_lock<std::mutex> lock(mutex);
@@ -201,6 +209,11 @@ struct GatedSystem : FakeSystem {
             open.insert(folder);
         }
         opened.notify_all();
+    }
+    // Whether a bulk file test has begun, or begins within `limit`.
+    bool WaitForCall(std::chrono::milliseconds limit) {
+        std::unique_lock<std::mutex> lock(mutex);
+        return called.wait_for(lock, limit, [this] { return calls > 0; });
     }
     void OpenAll() {
         {
@@ -231,7 +244,7 @@ struct GatedApp {
     DialogBackend dialogs{app};
 };
 
-TEST(DeferredListLoad, AutoFillOfAGroupWaitsOnlyForItsOwnTestsAndAnswersWhenTheyEnd) {
+TEST(DeferredListLoad, AutoFillAndEnterOfAGroupWaitOnlyForItsOwnTestsAndAnswerWhenTheyEnd) {
     GatedApp t;
     SetUpFixedDiskRun(t.sys, t.app);
     t.sys.PutFile(L"C:\\Docs\\plan.txt");
@@ -251,12 +264,72 @@ TEST(DeferredListLoad, AutoFillOfAGroupWaitsOnlyForItsOwnTestsAndAnswersWhenThey
     EXPECT_EQ(t.app.frmMain.TextMain.Text(), L"p-player");
     EXPECT_EQ(t.app.PendingItemIndex, 0);
     EXPECT_EQ(t.app.frmChoose.ComboListItemName(0).ListCount(), 0);
-    // Enter waits for every group; the File list's test ends then.
-    t.sys.Open(L"C:\\Docs");
+    // Enter launches from the Program list while the File list's test
+    // still runs; that list joins at the next input.
     t.app.frmMain.TextMain.TypeKey(13);
-    EXPECT_EQ(t.sys.launches.size(), 1u);
-    EXPECT_EQ(Entries(t.app.frmChoose.ComboListItemName(0)), (Names{L"plan"}));
+    ASSERT_EQ(t.sys.launches.size(), 1u);
+    EXPECT_EQ(t.sys.launches[0].target, L"C:\\Apps\\player.exe");
+    EXPECT_EQ(t.app.frmChoose.ComboListItemName(0).ListCount(), 0);
+    t.sys.Open(L"C:\\Docs");
     EXPECT_TRUE(t.dialogs.RunHeldWork());
+    EXPECT_EQ(Entries(t.app.frmChoose.ComboListItemName(0)), (Names{L"plan"}));
+}
+
+// A fixed-disk run whose File list holds "plan", its target there, loaded
+// with the gates open and the idle moment not yet come.
+void LoadPlanBeforeTheIdleMoment(GatedApp& t) {
+    SetUpFixedDiskRun(t.sys, t.app);
+    t.sys.OpenAll();
+    t.sys.PutFile(L"C:\\Docs\\plan.txt");
+    t.sys.PutFile(t.app.place.FileListFile, ListFileBytes({{"plan", "C:\\Docs\\plan.txt"}}));
+    StoreListCounts(t.app.settings, {.file = 0});
+    t.dialogs.holdIdleWork = true;
+    LaunchListLoad(t.app);
+}
+
+TEST(DeferredListLoad, TheTargetTestsBeginAtTheFirstIdleMomentAfterTheBarShows) {
+    GatedApp t;
+    LoadPlanBeforeTheIdleMoment(t);
+    // The files are read and the bar may be made and drawn, with both cores.
+    EXPECT_FALSE(t.sys.WaitForCall(std::chrono::milliseconds(200)));
+    ASSERT_TRUE(t.dialogs.RunHeldIdleWork());
+    EXPECT_TRUE(t.sys.WaitForCall(std::chrono::seconds(10)));
+    ASSERT_TRUE(t.dialogs.RunHeldWork());
+    EXPECT_EQ(Entries(t.app.frmChoose.ComboListItemName(0)), (Names{L"plan"}));
+}
+
+TEST(DeferredListLoad, TypingBeforeTheIdleMomentBeginsTheTestsItsSearchWaitsFor) {
+    GatedApp t;
+    LoadPlanBeforeTheIdleMoment(t);
+    t.app.frmMain.TextMain.TypeText(L"f-pl");
+    EXPECT_EQ(t.app.frmMain.TextMain.Text(), L"f-plan");
+    EXPECT_EQ(t.sys.calls, 1);
+    // The idle moment that comes later finds the load's tests under way.
+    EXPECT_TRUE(t.dialogs.RunHeldIdleWork());
+    ASSERT_TRUE(t.dialogs.RunHeldWork());
+    EXPECT_EQ(Entries(t.app.frmChoose.ComboListItemName(0)), (Names{L"plan"}));
+}
+
+TEST(DeferredListLoad, EnterOnACommandOfNoListGroupWaitsForEveryGroup) {
+    GatedApp t;
+    SetUpFixedDiskRun(t.sys, t.app);
+    t.sys.PutFile(L"C:\\Docs\\plan.txt");
+    t.sys.PutFile(t.app.place.FileListFile, ListFileBytes({{"plan", "C:\\Docs\\plan.txt"}}));
+    StoreListCounts(t.app.settings, {.file = 0});
+    LaunchListLoad(t.app);
+    std::thread opener([&t] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        t.sys.Open(L"C:\\Docs");
+    });
+    t.app.frmMain.TextMain.TypeText(L"w;example.org");
+    EXPECT_EQ(t.app.frmChoose.ComboListItemName(0).ListCount(), 0);
+    t.app.frmMain.TextMain.TypeKey(13);
+    opener.join();
+    EXPECT_EQ(Entries(t.app.frmChoose.ComboListItemName(0)), (Names{L"plan"}));
+    EXPECT_EQ(t.sys.launches.size(), 1u);
+    // The next input finds nothing left to join.
+    t.dialogs.RunHeldWork();
+    EXPECT_EQ(Entries(t.app.frmChoose.ComboListItemName(0)), (Names{L"plan"}));
 }
 
 // Nothing on screen shows a list before the first input, so no group is
@@ -277,6 +350,7 @@ struct MeetingReadSystem : FakeSystem {
             std::unique_lock<std::mutex> lock(mutex);
             if (open) {
                 callers.insert(std::this_thread::get_id());
+                met.notify_all();
                 if (++inside == 2) twoAtOnce = true;
                 met.notify_all();
                 met.wait_for(lock, std::chrono::seconds(2), [this] { return twoAtOnce; });
@@ -286,6 +360,31 @@ struct MeetingReadSystem : FakeSystem {
         return FakeSystem::ReadTextFile(path);
     }
 };
+
+TEST(ListFileReads, AThreadWaitingForAFileReadElsewhereReadsTheNextFileMeanwhile) {
+    MeetingReadSystem sys;
+    Application app(sys);
+    SeedPlanAndWork(sys, app);
+    StoreListCounts(app.settings, {.file = 0, .folder = 0});
+    {
+        const std::lock_guard<std::mutex> lock(sys.mutex);
+        sys.open = true;
+    }
+    ListFileReads reads(app, {});
+    {
+        // The reading thread has taken the first file.
+        std::unique_lock<std::mutex> lock(sys.mutex);
+        ASSERT_TRUE(sys.met.wait_for(lock, std::chrono::seconds(10), [&sys] { return !sys.callers.empty(); }));
+    }
+    const std::optional<ReadRecords>& plan = reads.Records(0);
+    ASSERT_TRUE(plan.has_value());
+    EXPECT_EQ(std::wstring(plan->names[0].Text()), L"plan");
+    EXPECT_EQ(std::wstring(reads.Records(1)->names[0].Text()), L"work");
+    reads.Wait();
+    EXPECT_TRUE(sys.twoAtOnce);
+    EXPECT_EQ(sys.callers.size(), 2u);
+    EXPECT_EQ(sys.callers.count(std::this_thread::get_id()), 1u);
+}
 
 TEST(ListFileReads, AThreadWaitingForAFileReadsFilesNotYetTakenAlongsideTheReadingThread) {
     MeetingReadSystem sys;
