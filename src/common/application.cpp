@@ -1,6 +1,7 @@
 #include "common/application.h"
 
 #include "data/list_load_pending.h"
+#include "data/list_texts_early.h"
 
 namespace qs {
 

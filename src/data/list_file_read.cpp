@@ -7,6 +7,7 @@
 #include "common/application.h"
 #include "data/file_channel.h"
 #include "data/list_files.h"
+#include "data/list_texts_early.h"
 
 namespace qs {
 
@@ -105,8 +106,9 @@ std::vector<ListFileOfLoad> ListFilesOfLoad(const Application& app) {
 
 std::optional<ReadRecords> ReadListFile(const Application& app, const ListFileOfLoad& file) {
     const std::wstring& path = file.flashSide ? FlashSideFile(app, file.group) : ComputerSideFile(app, file.group);
-    if (!app.sys.FileExists(path)) return std::nullopt;
-    std::wstring text = ReadDataFile(app, path);
+    std::optional<std::wstring> early = app.earlyListTexts ? app.earlyListTexts->Take(path) : std::nullopt;
+    if (!early && !app.sys.FileExists(path)) return std::nullopt;
+    std::wstring text = early ? std::move(*early) : ReadDataFile(app, path);
     const std::size_t length = text.size();
     RecordReader reader(std::move(text));
     return file.flashSide ? ReadFlashSide(app, reader, length, file.lastIndex)
