@@ -2,11 +2,8 @@
 // lives in its message loop.
 #include <windows.h>
 
-#include <memory>
-
 #include "common/application.h"
 #include "common/startup_marks.h"
-#include "data/list_texts_early.h"
 #include "startup/active_start.h"
 #include "dpi.h"
 #include "ole_on_demand.h"
@@ -15,15 +12,12 @@
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
     qs::marks::Mark("entry");
-    qs::win::Win32System system;
-    // The list files are read while the process connects to the display.
-    auto earlyListTexts = std::make_unique<qs::EarlyListTexts>(system);
     qs::win::EnablePerMonitorDpi();
+    qs::win::Win32System system;
     // Started by the first drop target or shell launch, ended at the exit.
     qs::win::OleOnDemand ole;
 
     qs::Application app(system);
-    app.earlyListTexts = std::move(earlyListTexts);
     qs::win::Win32Backend backend(instance);
     app.AttachBackend(&backend);
     system.SetWindowLookup([&backend](const qs::ui::Form& form) { return backend.WindowOf(form); });

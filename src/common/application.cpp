@@ -1,7 +1,6 @@
 #include "common/application.h"
 
 #include "data/list_load_pending.h"
-#include "data/list_texts_early.h"
 
 namespace qs {
 

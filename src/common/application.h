@@ -29,7 +29,6 @@ class Backend;
 }
 struct PendingListLoad;
 class ListFileReads;
-class EarlyListTexts;
 
 struct Application {
     explicit Application(System& system);
@@ -92,10 +91,6 @@ struct Application {
     FrmHelp frmHelp;
     FrmMessage frmMessage;
 
-    // The list files' texts read from the program's first instruction, until
-    // the list load of start-up has taken what it reads. Before the loads,
-    // so that their threads end before it goes.
-    std::unique_ptr<EarlyListTexts> earlyListTexts;
     // The list load whose target tests are still running, if any.
     std::unique_ptr<PendingListLoad> pendingListLoad;
     // The list files being read ahead of the load at start-up. Last, so that

@@ -8,7 +8,6 @@
 #include "data/list_file_read.h"
 #include "data/list_files.h"
 #include "data/list_load_pending.h"
-#include "data/list_texts_early.h"
 #include "data/report_bug.h"
 #include "ui/backend.h"
 
@@ -181,9 +180,6 @@ void LaunchListSettle(Application& app) {
     if (!app.pendingListLoad) return;
     const std::unique_ptr<PendingListLoad> load = std::move(app.pendingListLoad);
     load->reads->Wait();
-    // Every file of the start-up's load is read: what was read early and
-    // not taken goes.
-    app.earlyListTexts.reset();
     for (std::size_t k = 0; k < load->waiting.size(); ++k) {
         if (!load->added[k]) AddWaitingFile(app, *load, k);
     }

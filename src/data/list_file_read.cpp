@@ -7,7 +7,6 @@
 #include "common/application.h"
 #include "data/file_channel.h"
 #include "data/list_files.h"
-#include "data/list_texts_early.h"
 
 namespace qs {
 
@@ -106,9 +105,8 @@ std::vector<ListFileOfLoad> ListFilesOfLoad(const Application& app) {
 
 std::optional<ReadRecords> ReadListFile(const Application& app, const ListFileOfLoad& file) {
     const std::wstring& path = file.flashSide ? FlashSideFile(app, file.group) : ComputerSideFile(app, file.group);
-    std::optional<std::wstring> early = app.earlyListTexts ? app.earlyListTexts->Take(path) : std::nullopt;
-    if (!early && !app.sys.FileExists(path)) return std::nullopt;
-    std::wstring text = early ? std::move(*early) : ReadDataFile(app, path);
+    if (!app.sys.FileExists(path)) return std::nullopt;
+    std::wstring text = ReadDataFile(app, path);
     const std::size_t length = text.size();
     RecordReader reader(std::move(text));
     return file.flashSide ? ReadFlashSide(app, reader, length, file.lastIndex)
