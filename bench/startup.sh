@@ -36,7 +36,9 @@
 # pass/fail test.
 # Usage: bash bench/startup.sh   (QS_BENCH_RUNS=15 runs each by default;
 #        QS_BENCH_LISTS="empty full spread" picks the list states, in order,
-#        "empty full" by default)
+#        "empty full" by default; QS_BENCH_OTHER names another Quillstart.exe
+#        built with marks, say of an earlier commit, which then starts in the
+#        same turns, so that a change's saving shows in one run)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -74,6 +76,8 @@ cp "$win_build/bench/empty_window.exe" "$win_build/bench/empty_popup.exe" "$win_
 cp "$marks_build/bench/empty_popup.exe" "$c/benchmarks/empty_popup.exe"
 cp "$win_build/win32/Quillstart.exe" "$work/Quillstart-product.exe"
 cp "$marks_build/win32/Quillstart.exe" "$work/Quillstart-marks.exe"
+other=${QS_BENCH_OTHER:-}
+[ -z "$other" ] || cp "$other" "$work/Quillstart-other.exe"
 marks_file='C:\bench\marks.txt'
 
 # Puts the product build (product) or the build with marks (marks) in
@@ -172,11 +176,18 @@ for state in $list_states; do
     printf '  run %d: empty window %s | empty popup %s | Quillstart %s\n' "$i" "$(tail -1 "$e_file")" \
       "$(tail -1 "$p_file")" "$(tail -1 "$q_file")"
     printf '         with marks: empty popup %s | Quillstart %s\n' "$(tail -1 "$pm_file")" "$(tail -1 "$qm_file")"
+    if [ -n "$other" ]; then
+      use_quillstart other
+      measure_marks 'C:\Quillstart\Quillstart.exe' Quillstart "$work/other-$state.txt" ready
+      printf '         the other build with marks: %s\n' "$(tail -1 "$work/other-$state.txt")"
+    fi
   done
   cp "$work/marks-last.txt" "$work/marks-$state.txt"
   results+=("$state $(median "$e_file" 1) $(median "$e_file" 3) $(median "$p_file" 1) $(median "$q_file" 1) \
 $(median "$q_file" 2) $(median "$q_file" 3)")
   marks_results+=("$state $(median "$pm_file" 4) $(median "$qm_file" 4) $(median "$qm_file" 5)")
+  [ -z "$other" ] || marks_results+=("$state-other $(median "$pm_file" 4) $(median "$work/other-$state.txt" 4) \
+$(median "$work/other-$state.txt" 5)")
 done
 
 echo
@@ -197,11 +208,11 @@ echo
 echo "medians of the builds with marks, ms inside the process: pre-show, from the entry to the"
 echo "show, of the popup and of Quillstart, and Quillstart's over the popup's; key wait, from"
 echo "the bar's show until the first key is taken"
-printf '%-8s %9s %9s %9s %9s\n' "lists" "popup" "bar" "over" "key wait"
+printf '%-12s %9s %9s %9s %9s\n' "lists" "popup" "bar" "over" "key wait"
 for result in "${marks_results[@]}"; do
   read -r state p q k <<<"$result"
   awk -v s="$state" -v p="$p" -v q="$q" -v k="$k" \
-    'BEGIN { printf "%-8s %9.2f %9.2f %9.2f %9.2f\n", s, p, q, q - p, k }'
+    'BEGIN { printf "%-12s %9.2f %9.2f %9.2f %9.2f\n", s, p, q, q - p, k }'
 done
 for state in $list_states; do
   echo
