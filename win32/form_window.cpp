@@ -180,9 +180,20 @@ LONG FormWindow::ClientHeight() const {
     return client.bottom;
 }
 
+namespace {
+
+std::uint64_t repaintsAsked = 0;
+
+}  // namespace
+
+std::uint64_t FormWindow::RepaintsAsked() { return repaintsAsked; }
+
 void FormWindow::FieldsMoved() {
     faceDirty_ = true;
-    if (Handle() != nullptr) ::InvalidateRect(Handle(), nullptr, FALSE);
+    if (Handle() == nullptr || repaintAsked_) return;
+    ::InvalidateRect(Handle(), nullptr, FALSE);
+    repaintAsked_ = true;
+    ++repaintsAsked;
 }
 
 void FormWindow::SetToolTip(HWND child, const std::wstring& text) {
@@ -369,6 +380,8 @@ void FormWindow::Surface() {
 
 void FormWindow::Paint() {
     UpdateFace();
+    // The paint validates the whole window: a change from here on asks anew.
+    repaintAsked_ = false;
     PaintScope paint(Handle());
     face_.PaintTo(paint.Get());
     if (!painted_) {

@@ -45,6 +45,9 @@ public:
     // How many times a face has been designed, by every form window of the
     // process: the cost that a repaint without changes must not pay.
     static std::uint64_t FaceBuilds();
+    // How many times, in all, a change on a form's face has asked its window
+    // to repaint.
+    static std::uint64_t RepaintsAsked();
     // The face as it is now, in the form's client pixels.
     const PixelImage& Face();
     // A brush of the face for a child window that shows the face beneath
@@ -117,6 +120,10 @@ private:
     FormFace face_;
     // True when something the face shows changed since it was last designed.
     bool faceDirty_ = true;
+    // True from the moment a change asked the whole window to repaint until
+    // it paints: the changes between ask nothing more of the system, so a
+    // theme switch that touches every control asks once, not once each.
+    bool repaintAsked_ = false;
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     LONG lineHeight_ = 0;
     std::vector<std::unique_ptr<ControlWindow>> controls_;

@@ -65,4 +65,28 @@ TEST_F(FormFaceTest, EachChangeOnTheFaceBuildsItOnceMoreAndShowsTheChange) {
     EXPECT_EQ(qs::win::FormWindow::FaceBuilds(), before + 4);
 }
 
+TEST_F(FormFaceTest, ChangesBeforeAPaintAskForItOnceAndAChangeAfterItAsksAgain) {
+    form.Show();
+    Pump();
+    RECT update{};
+    ASSERT_FALSE(::GetUpdateRect(window, &update, FALSE));
+    const std::uint64_t before = qs::win::FormWindow::RepaintsAsked();
+    // A theme switch writes every control's colours before anything paints.
+    for (int i = 0; i < 50; ++i) {
+        form.Caption.SetBackColor(qs::ui::Rgb(i, 2, 3));
+        form.Caption.Move(4300 + 15 * i, 0, 1400, 300);
+    }
+    EXPECT_EQ(qs::win::FormWindow::RepaintsAsked(), before + 1);
+    EXPECT_TRUE(::GetUpdateRect(window, &update, FALSE));
+    ::UpdateWindow(window);
+    EXPECT_FALSE(::GetUpdateRect(window, &update, FALSE));
+    // The one repaint shows the last of the changes.
+    label = ::FindWindowExW(window, nullptr, L"STATIC", nullptr);
+    ASSERT_NE(label, nullptr);
+    EXPECT_EQ(AskColours(), RGB(49, 2, 3));
+    form.SetBackColor(qs::ui::Rgb(200, 10, 10));
+    EXPECT_EQ(qs::win::FormWindow::RepaintsAsked(), before + 2);
+    EXPECT_TRUE(::GetUpdateRect(window, &update, FALSE));
+}
+
 }  // namespace
