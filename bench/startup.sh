@@ -54,21 +54,9 @@ bash scripts/build.sh win
   -DCMAKE_BUILD_TYPE=Release -DQS_BUILD_TESTS=OFF -DQUILL_STARTUP_MARKS=ON >/dev/null
 ninja -C "$marks_build" -j2 Quillstart empty_popup
 
-# shellcheck source=../scripts/session.sh
-source scripts/session.sh
-
-work=$(mktemp -d /tmp/quillstart-bench.XXXXXX)
-finish() {
-  qs_stop_wine
-  qs_stop_display
-  rm -rf "$work"
-}
-trap finish EXIT
-
-qs_start_display "$work"
-qs_new_prefix "$work/prefix" "$work/wineboot.log"
-c=$WINEPREFIX/drive_c
-mkdir -p "$c/Quillstart" "$c/bench" "$c/benchmarks"
+# shellcheck source=wine_bench.sh
+source bench/wine_bench.sh
+mkdir -p "$c/benchmarks"
 cp "$win_build/bench/empty_window.exe" "$win_build/bench/empty_popup.exe" "$win_build/bench/startwait.exe" "$c/bench/"
 # The popup with marks lies in a folder of its own. Quillstart must start
 # from the one folder its family record names, or each start would be a
@@ -81,16 +69,12 @@ other=${QS_BENCH_OTHER:-}
 marks_file='C:\bench\marks.txt'
 
 # Puts the product build (product) or the build with marks (marks) in
-# Quillstart's folder. Usage: use_quillstart product|marks
+# Quillstart's folder. Usage: use_quillstart product|marks|other
 use_quillstart() {
   cp "$work/Quillstart-$1.exe" "$c/Quillstart/Quillstart.exe"
 }
 # Quillstart is already known on this computer, so every run is an ordinary
 # start to the bar and not the first start's name prompt.
-# shellcheck source=../tests/e2e/data.sh
-source tests/e2e/data.sh
-E2E_WORK=$work
-qs_start_wineserver
 e2e_seed_family C
 
 # Runs the stopwatch once and appends "visible ready working-set" to OUTPUT
@@ -125,10 +109,9 @@ measure_marks() {
   echo "$line $figures" >>"$3"
 }
 
-# The median of one column of a measure file. Usage: median FILE COLUMN
-median() {
-  awk -v c="$2" '{ print $c }' "$1" | sort -g | awk '{ a[NR] = $1 } END {
-    if (NR % 2) print a[(NR + 1) / 2]; else printf "%.1f\n", (a[NR / 2] + a[NR / 2 + 1]) / 2 }'
+# The median of one column of a measure file. Usage: column_median FILE COLUMN
+column_median() {
+  awk -v c="$2" '{ print $c }' "$1" | median
 }
 
 echo "startup: display $DISPLAY, warm-up"
@@ -183,11 +166,11 @@ for state in $list_states; do
     fi
   done
   cp "$work/marks-last.txt" "$work/marks-$state.txt"
-  results+=("$state $(median "$e_file" 1) $(median "$e_file" 3) $(median "$p_file" 1) $(median "$q_file" 1) \
-$(median "$q_file" 2) $(median "$q_file" 3)")
-  marks_results+=("$state $(median "$pm_file" 4) $(median "$qm_file" 4) $(median "$qm_file" 5)")
-  [ -z "$other" ] || marks_results+=("$state-other $(median "$pm_file" 4) $(median "$work/other-$state.txt" 4) \
-$(median "$work/other-$state.txt" 5)")
+  results+=("$state $(column_median "$e_file" 1) $(column_median "$e_file" 3) $(column_median "$p_file" 1) $(column_median "$q_file" 1) \
+$(column_median "$q_file" 2) $(column_median "$q_file" 3)")
+  marks_results+=("$state $(column_median "$pm_file" 4) $(column_median "$qm_file" 4) $(column_median "$qm_file" 5)")
+  [ -z "$other" ] || marks_results+=("$state-other $(column_median "$pm_file" 4) $(column_median "$work/other-$state.txt" 4) \
+$(column_median "$work/other-$state.txt" 5)")
 done
 
 echo
