@@ -11,15 +11,25 @@ damaged_start() {
   e2e_launch
 }
 
-damaged_record_reports_and_the_start_goes_on() {
+# Reads the dialog again and looks for a text in its message box.
+dialog_body_has_read() {
+  dialog_read && dialog_body_has "$1"
+}
+
+# The bug dialog of a start, naming ROUTINE, shows before the bar; "No"
+# lets the start go on to the bar. Usage: bug_before_the_bar ROUTINE [SHOT]
+bug_before_the_bar() {
   qs_poll 30 dialog_heading_shows "$(dialog_user_name)" || e2e_fail "no dialog came up" || return 1
-  sleep 0.5
-  dialog_read || return 1
-  dialog_body_has 'Quillstart:Bug:ControlDataGet' || e2e_fail "the dialog does not name ControlDataGet" || return 1
+  qs_poll 10 dialog_body_has_read "Quillstart:Bug:$1" || e2e_fail "the dialog does not name $1" || return 1
   e2e_bar_visible && { e2e_fail "the bar showed before the failure was answered" || return 1; }
-  dialog_screenshot damaged-record
+  [ -z "${2:-}" ] || dialog_screenshot "$2"
   dialog_click_button No || return 1
   qs_poll 30 e2e_bar_visible || e2e_fail "the bar did not come after \"No\"" || return 1
+  qs_poll 10 e2e_probe || e2e_fail "the probe found no Command box in the bar"
+}
+
+damaged_record_reports_and_the_start_goes_on() {
+  bug_before_the_bar ControlDataGet damaged-record || return 1
   e2e_command 'w;example.org' || return 1
   e2e_wait_launch '"http://www.example.org"' || return 1
   e2e_close_bar || return 1
@@ -47,13 +57,7 @@ damaged_list_start() {
 }
 
 damaged_list_reports_before_the_bar() {
-  qs_poll 30 dialog_heading_shows "$(dialog_user_name)" || e2e_fail "no dialog came up" || return 1
-  qs_poll 10 dialog_body_has_read 'Quillstart:Bug:ActionLaunchListGet' ||
-    e2e_fail "the dialog does not name ActionLaunchListGet" || return 1
-  e2e_bar_visible && { e2e_fail "the bar showed before the failure was answered" || return 1; }
-  dialog_click_button No || return 1
-  qs_poll 30 e2e_bar_visible || e2e_fail "the bar did not come after \"No\"" || return 1
-  qs_poll 10 e2e_probe || e2e_fail "the probe found no Command box in the bar" || return 1
+  bug_before_the_bar ActionLaunchListGet || return 1
   e2e_command 'p-myPlayer' || return 1
   e2e_wait_launch 'myPlayer.exe' || return 1
   e2e_close_bar || return 1
@@ -61,11 +65,6 @@ damaged_list_reports_before_the_bar() {
   data="$(e2e_drive_dir C)/Morvane/Morvane Apps/Quillstart"
   [ "$(tr -d '\r' <"$data/ListProg.Morvane")" = '"myPlayer","C:\Apps\myPlayer.exe"' ] ||
     e2e_fail "the list was not written back with its one record: $(od -c "$data/ListProg.Morvane" | head -3 | tr '\n' '|')"
-}
-
-# Reads the dialog again and looks for a text in its message box.
-dialog_body_has_read() {
-  dialog_read && dialog_body_has "$1"
 }
 
 e2e_scenario 'a Program list that breaks off: the bug dialog before the bar, then its first record starts' \
