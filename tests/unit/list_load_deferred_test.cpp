@@ -350,7 +350,6 @@ struct MeetingReadSystem : FakeSystem {
             std::unique_lock<std::mutex> lock(mutex);
             if (open) {
                 callers.insert(std::this_thread::get_id());
-                met.notify_all();
                 if (++inside == 2) twoAtOnce = true;
                 met.notify_all();
                 met.wait_for(lock, std::chrono::seconds(2), [this] { return twoAtOnce; });
@@ -359,6 +358,18 @@ struct MeetingReadSystem : FakeSystem {
         }
         return FakeSystem::ReadTextFile(path);
     }
+    // From now on each read waits for a second one.
+    void Open() {
+        const std::lock_guard<std::mutex> lock(mutex);
+        open = true;
+    }
+    // Two reads met, one of them on the calling thread.
+    void ExpectTwoThreadsMet() {
+        const std::lock_guard<std::mutex> lock(mutex);
+        EXPECT_TRUE(twoAtOnce);
+        EXPECT_EQ(callers.size(), 2u);
+        EXPECT_EQ(callers.count(std::this_thread::get_id()), 1u);
+    }
 };
 
 TEST(ListFileReads, AThreadWaitingForAFileReadElsewhereReadsTheNextFileMeanwhile) {
@@ -366,10 +377,7 @@ TEST(ListFileReads, AThreadWaitingForAFileReadElsewhereReadsTheNextFileMeanwhile
     Application app(sys);
     SeedPlanAndWork(sys, app);
     StoreListCounts(app.settings, {.file = 0, .folder = 0});
-    {
-        const std::lock_guard<std::mutex> lock(sys.mutex);
-        sys.open = true;
-    }
+    sys.Open();
     ListFileReads reads(app, {});
     {
         // The reading thread has taken the first file.
@@ -381,9 +389,7 @@ TEST(ListFileReads, AThreadWaitingForAFileReadElsewhereReadsTheNextFileMeanwhile
     EXPECT_EQ(std::wstring(plan->names[0].Text()), L"plan");
     EXPECT_EQ(std::wstring(reads.Records(1)->names[0].Text()), L"work");
     reads.Wait();
-    EXPECT_TRUE(sys.twoAtOnce);
-    EXPECT_EQ(sys.callers.size(), 2u);
-    EXPECT_EQ(sys.callers.count(std::this_thread::get_id()), 1u);
+    sys.ExpectTwoThreadsMet();
 }
 
 TEST(ListFileReads, AThreadWaitingForAFileReadsFilesNotYetTakenAlongsideTheReadingThread) {
@@ -392,10 +398,7 @@ TEST(ListFileReads, AThreadWaitingForAFileReadsFilesNotYetTakenAlongsideTheReadi
     SeedPlanAndWork(sys, app);
     sys.PutFile(app.place.FileListProg, ListFileBytes({{"edit", "C:\\edit.exe"}}));
     StoreListCounts(app.settings, {.file = 0, .folder = 0, .program = 0});
-    {
-        const std::lock_guard<std::mutex> lock(sys.mutex);
-        sys.open = true;
-    }
+    sys.Open();
     ListFileReads reads(app, {});
     const std::optional<ReadRecords>& program = reads.Records(2);
     ASSERT_TRUE(program.has_value());
@@ -404,9 +407,7 @@ TEST(ListFileReads, AThreadWaitingForAFileReadsFilesNotYetTakenAlongsideTheReadi
     EXPECT_EQ(std::wstring(reads.Records(0)->names[0].Text()), L"plan");
     EXPECT_EQ(std::wstring(reads.Records(1)->names[0].Text()), L"work");
     reads.Wait();
-    EXPECT_TRUE(sys.twoAtOnce);
-    EXPECT_EQ(sys.callers.size(), 2u);
-    EXPECT_EQ(sys.callers.count(std::this_thread::get_id()), 1u);
+    sys.ExpectTwoThreadsMet();
 }
 
 TEST(DeferredListLoad, EveryGroupJoinsTheListsAtTheFirstInputTheTestedOnesWithTheirAnswers) {

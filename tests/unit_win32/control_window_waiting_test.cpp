@@ -10,15 +10,26 @@
 namespace qs::test {
 namespace {
 
+// Loads the form, or shows it, and gives its window, checking that no child
+// window of the class has been made on it yet; null when the form got none.
+HWND WindowWithoutChild(win::Win32Backend& backend, TestForm& pane, const wchar_t* childClass, bool show = false) {
+    pane.SetBackend(&backend);
+    if (show) {
+        pane.Show();
+    } else {
+        pane.Load();
+    }
+    const HWND shown = backend.WindowOf(pane);
+    if (shown != nullptr) EXPECT_EQ(::FindWindowExW(shown, nullptr, childClass, nullptr), nullptr) << childClass;
+    return shown;
+}
+
 TEST_F(Win32BackendTest, AHiddenControlGetsItsWindowWhenItShowsWithWhatWasWrittenMeanwhile) {
     TestForm pane;
     pane.SetCaption(L"QuillstartHiddenLabel");
     pane.Caption.SetVisible(false);
-    pane.SetBackend(&backend);
-    pane.Load();
-    const HWND shown = backend.WindowOf(pane);
+    const HWND shown = WindowWithoutChild(backend, pane, L"STATIC");
     ASSERT_NE(shown, nullptr);
-    EXPECT_EQ(::FindWindowExW(shown, nullptr, L"STATIC", nullptr), nullptr);
     pane.Caption.SetCaption(L"Count 99");
     pane.Caption.SetVisible(true);
     const HWND label = ::FindWindowExW(shown, nullptr, L"STATIC", nullptr);
@@ -32,11 +43,8 @@ TEST_F(Win32BackendTest, AControlBeyondTheFormsWidthGetsItsWindowWhenTheFormWide
     TestForm pane;
     pane.SetCaption(L"QuillstartNarrowForm");
     pane.Button.Move(7000, 0, 900, 300);
-    pane.SetBackend(&backend);
-    pane.Load();
-    const HWND shown = backend.WindowOf(pane);
+    const HWND shown = WindowWithoutChild(backend, pane, L"BUTTON");
     ASSERT_NE(shown, nullptr);
-    EXPECT_EQ(::FindWindowExW(shown, nullptr, L"BUTTON", nullptr), nullptr);
     pane.Move(pane.Left(), pane.Top(), 9000, pane.Height());
     EXPECT_NE(::FindWindowExW(shown, nullptr, L"BUTTON", nullptr), nullptr);
     pane.Unload();
@@ -46,11 +54,8 @@ TEST_F(Win32BackendTest, AControlMovedIntoTheFormsWidthGetsItsWindow) {
     TestForm pane;
     pane.SetCaption(L"QuillstartMovedIn");
     pane.Button.Move(7000, 0, 900, 300);
-    pane.SetBackend(&backend);
-    pane.Load();
-    const HWND shown = backend.WindowOf(pane);
+    const HWND shown = WindowWithoutChild(backend, pane, L"BUTTON");
     ASSERT_NE(shown, nullptr);
-    EXPECT_EQ(::FindWindowExW(shown, nullptr, L"BUTTON", nullptr), nullptr);
     pane.Button.Move(3000, 0, 900, 300);
     EXPECT_NE(::FindWindowExW(shown, nullptr, L"BUTTON", nullptr), nullptr);
     pane.Unload();
@@ -60,11 +65,8 @@ TEST_F(Win32BackendTest, ABoxBeyondTheFormsWidthGivenTheFocusGetsItsWindowAndThe
     TestForm pane;
     pane.SetCaption(L"QuillstartFocusBeyond");
     pane.Box.Move(7000, 0, 1812, 372);
-    pane.SetBackend(&backend);
-    pane.Show();
-    const HWND shown = backend.WindowOf(pane);
+    const HWND shown = WindowWithoutChild(backend, pane, L"EDIT", true);
     ASSERT_NE(shown, nullptr);
-    EXPECT_EQ(::FindWindowExW(shown, nullptr, L"EDIT", nullptr), nullptr);
     pane.Box.SetFocus();
     const HWND box = ::FindWindowExW(shown, nullptr, L"EDIT", nullptr);
     ASSERT_NE(box, nullptr);
