@@ -302,7 +302,7 @@ void FormWindow::ApplyVisible() {
         // hand it the focus when it shows again.
         ::SetActiveWindow(activatedFrom_);
     }
-    ::ShowWindow(Handle(), ShowCommand());
+    Show(ShowCommand());
     if (form_.Visible() && !firstShowingPosted_) marks::Mark("shown", form_.Name());
     // What only matters on screen (tips, drop targets) is made once the
     // window has been drawn, so the window shows without waiting for it.
@@ -310,6 +310,21 @@ void FormWindow::ApplyVisible() {
         firstShowingPosted_ = true;
         ::SetTimer(Handle(), kFirstShownTimer, USER_TIMER_MINIMUM, nullptr);
     }
+}
+
+void FormWindow::Show(int command) {
+    if (command == SW_HIDE || ::IsWindowVisible(Handle())) {
+        ::ShowWindow(Handle(), command);
+        return;
+    }
+    // Shown as ShowWindow would show it, but without erasing the window and
+    // each of its child windows before the call returns: under Wine every
+    // child's erase is a round trip to the server, which held the bar's
+    // show for a dozen milliseconds. The first paint, a moment later,
+    // erases and draws each window anyway.
+    UINT flags = SWP_SHOWWINDOW | SWP_NOMOVE | SWP_NOSIZE | SWP_DEFERERASE;
+    if (command == SW_SHOWNOACTIVATE) flags |= SWP_NOACTIVATE | SWP_NOZORDER;
+    ::SetWindowPos(Handle(), HWND_TOP, 0, 0, 0, 0, flags);
 }
 
 int FormWindow::ShowCommand() const {

@@ -103,6 +103,8 @@ private:
     bool OverBareFace() const;
     // SW_SHOW, SW_SHOWNOACTIVATE or SW_HIDE, as the form asks.
     int ShowCommand() const;
+    // Shows or hides the window with a ShowWindow command.
+    void Show(int command);
     // The cursor of the form's pointer shape.
     HCURSOR PointerCursor() const;
     // Puts the child windows in the tab order.
