@@ -33,6 +33,10 @@ public:
     std::int32_t ReadInt32();
     // True when only blanks and line ends remain.
     bool AtEnd() const;
+    // Reads again from the first value.
+    void Restart() { at_ = 0; }
+    // The length of the whole text, in characters.
+    std::size_t Length() const { return text_.size(); }
 
 private:
     long long ReadInteger(long long low, long long high);

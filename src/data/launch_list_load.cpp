@@ -75,19 +75,19 @@ std::unique_ptr<ListFileReads> ReadsForLoad(Application& app) {
     return std::make_unique<ListFileReads>(app, windows != nullptr ? windows->PendingWorkWaker() : nullptr);
 }
 
-// Takes file `i` of the load as read: its records wait to join the lists
-// until input may come, the File, Folder and Program records for their
-// answers too, since nothing on screen shows them before. A failure of the
-// reading is reported now, in the load's order, and the records read
-// before it join with the others.
+// Takes file `i` of the load as walked: its records are made and wait to
+// join the lists until input may come, the File, Folder and Program records
+// for their answers too, since nothing on screen shows them before. A
+// failure of the reading is reported now, in the load's order, and the
+// records read before it join with the others.
 void TakeFile(Application& app, PendingListLoad& load, std::size_t i) {
     const ListFileOfLoad& file = load.reads->Files()[i];
     try {
-        const std::optional<ReadRecords>& records = load.reads->Records(i);
-        if (!records) return;
+        const ListFileReads::Walk walk = load.reads->Walked(i);
+        if (!walk.exists) return;
         load.waiting.push_back(i);
         load.added.push_back(false);
-        RaiseFailure(records->failure);
+        RaiseFailure(walk.failure);
     } catch (const std::exception&) {
         ReportBug(app, LoadRoutine(file.flashSide));
     }
@@ -100,8 +100,10 @@ void AddWaitingFile(Application& app, PendingListLoad& load, std::size_t k) {
     ListFileReads& reads = *load.reads;
     const std::size_t i = load.waiting[k];
     const ListFileOfLoad& file = reads.Files()[i];
-    const ReadRecords& records = *reads.Records(i);
+    // One report per file: a file whose reading failed has had its.
+    const bool reported = reads.Walked(i).failure != nullptr;
     try {
+        const ReadRecords& records = *reads.Records(i);
         if (file.group > 2) {
             // Email and Web URL are not tested.
             AddComputerSide(app, file.group, records, nullptr);
@@ -114,8 +116,7 @@ void AddWaitingFile(Application& app, PendingListLoad& load, std::size_t k) {
             AddComputerSide(app, file.group, records, &passes);
         }
     } catch (const std::exception&) {
-        // One report per file: a file whose reading failed has had its.
-        if (!records.failure) ReportBug(app, LoadRoutine(file.flashSide));
+        if (!reported) ReportBug(app, LoadRoutine(file.flashSide));
     }
 }
 

@@ -42,43 +42,66 @@ ReadRecords RoomFor(std::int16_t lastIndex, std::size_t fileLength) {
     return records;
 }
 
-// Every record of the file is kept, up to the stored last index; the
-// records read before a failure are still added, and only then is the
-// failure raised.
-ReadRecords ReadComputerSide(RecordReader& reader, std::size_t fileLength, std::int16_t lastIndex) {
-    ReadRecords records = RoomFor(lastIndex, fileLength);
-    FileTexts texts(fileLength);
+// Walks a computer-side file's records up to the stored last index, giving
+// each name and target to `keep`; returns the failure that ended the walk
+// early, if any. The records kept before a failure stay kept.
+template <typename Keep>
+std::exception_ptr WalkComputerSide(RecordReader& reader, std::int16_t lastIndex, Keep keep) {
     try {
         for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
-            ui::SharedText name = texts.Make(reader.ReadView());
-            ui::SharedText target = texts.Make(reader.ReadView());
-            records.names.push_back(std::move(name));
-            records.targets.push_back(std::move(target));
+            const std::wstring_view name = reader.ReadView();
+            const std::wstring_view target = reader.ReadView();
+            keep(name, target);
         }
     } catch (const std::exception&) {
-        records.failure = std::current_exception();
+        return std::current_exception();
     }
-    return records;
+    return nullptr;
 }
 
-// A flash-side file ends early, without a word, at an empty name or target;
-// targets come back with the program's drive letter.
-ReadRecords ReadFlashSide(const Application& app, RecordReader& reader, std::size_t fileLength,
-                          std::int16_t lastIndex) {
-    ReadRecords records = RoomFor(lastIndex, fileLength);
-    FileTexts texts(fileLength);
+// The same for a flash-side file, which ends early, without a word, at an
+// empty name or target.
+template <typename Keep>
+std::exception_ptr WalkFlashSide(RecordReader& reader, std::int16_t lastIndex, Keep keep) {
     try {
         for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
             const std::wstring_view name = reader.ReadView();
             const std::wstring_view stored = reader.ReadView();
             if (name.empty() || stored.empty()) break;
-            records.names.push_back(texts.Make(name));
-            records.targets.push_back(texts.Make(FromStoredFlashTarget(app, stored)));
+            keep(name, stored);
         }
     } catch (const std::exception&) {
-        records.failure = std::current_exception();
+        return std::current_exception();
     }
+    return nullptr;
+}
+
+template <typename Keep>
+std::exception_ptr Walk(RecordReader& reader, const ListFileOfLoad& file, Keep keep) {
+    return file.flashSide ? WalkFlashSide(reader, file.lastIndex, keep)
+                          : WalkComputerSide(reader, file.lastIndex, keep);
+}
+
+// Every record of the file is kept, up to the stored last index; the
+// records read before a failure are still added, and only then is the
+// failure raised. Flash-side targets come back with the program's drive
+// letter.
+ReadRecords Records(const Application& app, RecordReader& reader, const ListFileOfLoad& file) {
+    ReadRecords records = RoomFor(file.lastIndex, reader.Length());
+    FileTexts texts(reader.Length());
+    records.failure = Walk(reader, file, [&](std::wstring_view name, std::wstring_view target) {
+        ui::SharedText keptName = texts.Make(name);
+        ui::SharedText keptTarget = texts.Make(file.flashSide ? FromStoredFlashTarget(app, target) : target);
+        records.names.push_back(std::move(keptName));
+        records.targets.push_back(std::move(keptTarget));
+    });
     return records;
+}
+
+std::optional<RecordReader> ReadText(const Application& app, const ListFileOfLoad& file) {
+    const std::wstring& path = file.flashSide ? FlashSideFile(app, file.group) : ComputerSideFile(app, file.group);
+    if (!app.sys.FileExists(path)) return std::nullopt;
+    return RecordReader(ReadDataFile(app, path));
 }
 
 }  // namespace
@@ -104,13 +127,22 @@ std::vector<ListFileOfLoad> ListFilesOfLoad(const Application& app) {
 }
 
 std::optional<ReadRecords> ReadListFile(const Application& app, const ListFileOfLoad& file) {
-    const std::wstring& path = file.flashSide ? FlashSideFile(app, file.group) : ComputerSideFile(app, file.group);
-    if (!app.sys.FileExists(path)) return std::nullopt;
-    std::wstring text = ReadDataFile(app, path);
-    const std::size_t length = text.size();
-    RecordReader reader(std::move(text));
-    return file.flashSide ? ReadFlashSide(app, reader, length, file.lastIndex)
-                          : ReadComputerSide(reader, length, file.lastIndex);
+    std::optional<RecordReader> reader = ReadText(app, file);
+    if (!reader) return std::nullopt;
+    return Records(app, *reader, file);
+}
+
+std::optional<WalkedListFile> WalkListFile(const Application& app, const ListFileOfLoad& file) {
+    std::optional<RecordReader> reader = ReadText(app, file);
+    if (!reader) return std::nullopt;
+    WalkedListFile walked{std::move(*reader), nullptr};
+    walked.failure = Walk(walked.reader, file, [](std::wstring_view, std::wstring_view) {});
+    return walked;
+}
+
+ReadRecords MakeRecords(const Application& app, const ListFileOfLoad& file, WalkedListFile& walked) {
+    walked.reader.Restart();
+    return Records(app, walked.reader, file);
 }
 
 std::vector<std::wstring_view> TargetViews(const std::vector<ui::SharedText>& targets) {

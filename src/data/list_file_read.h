@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "data/file_channel.h"
 #include "ui/shared_text.h"
 
 namespace qs {
@@ -42,6 +43,22 @@ struct ReadRecords {
 // that cannot be opened throws; one that breaks off part-way comes back
 // with the records read before the break and the failure beside them.
 std::optional<ReadRecords> ReadListFile(const Application& app, const ListFileOfLoad& file);
+
+// A list file read and its values walked through without keeping any, so
+// that whether its records break off is known long before they are made:
+// the text, and the failure that making the records will end with.
+struct WalkedListFile {
+    RecordReader reader;
+    std::exception_ptr failure;
+};
+
+// One side's file read and walked, or nothing when there is no such file; a
+// file that cannot be opened throws.
+std::optional<WalkedListFile> WalkListFile(const Application& app, const ListFileOfLoad& file);
+
+// The records of a walked file, as ReadListFile gives them: the same records
+// and the same failure the walk found.
+ReadRecords MakeRecords(const Application& app, const ListFileOfLoad& file, WalkedListFile& walked);
 
 // The targets as the system's bulk tests take them.
 std::vector<std::wstring_view> TargetViews(const std::vector<ui::SharedText>& targets);

@@ -105,6 +105,7 @@ bool ListFileReads::Take(std::size_t i) {
 }
 
 void ListFileReads::TestTaken(std::size_t i) {
+    Make(i);
     if (Tested(files_[i]) && slots_[i].records) Test(i);
     {
         const std::lock_guard<std::mutex> lock(mutex_);
@@ -133,11 +134,27 @@ void ListFileReads::WaitFor(std::size_t i) {
 }
 
 void ListFileReads::Read(std::size_t i) {
+    Slot& slot = slots_[i];
     try {
-        slots_[i].records = ReadListFile(app_, files_[i]);
+        slot.walked = WalkListFile(app_, files_[i]);
+        if (slot.walked) slot.walk = {true, slot.walked->failure};
     } catch (...) {
-        slots_[i].readFailure = std::current_exception();
+        slot.readFailure = std::current_exception();
     }
+}
+
+void ListFileReads::Make(std::size_t i) {
+    Slot& slot = slots_[i];
+    std::call_once(slot.made, [this, i, &slot] {
+        if (!slot.walked) return;
+        try {
+            slot.records = MakeRecords(app_, files_[i], *slot.walked);
+        } catch (...) {
+            slot.makeFailure = std::current_exception();
+        }
+        // The records hold their own copies of the texts.
+        slot.walked.reset();
+    });
 }
 
 void ListFileReads::Test(std::size_t i) {
@@ -151,6 +168,14 @@ void ListFileReads::Test(std::size_t i) {
 }
 
 const std::optional<ReadRecords>& ListFileReads::Records(std::size_t i) {
+    Walked(i);
+    Make(i);
+    const Slot& slot = slots_[i];
+    if (slot.makeFailure) std::rethrow_exception(slot.makeFailure);
+    return slot.records;
+}
+
+ListFileReads::Walk ListFileReads::Walked(std::size_t i) {
     // Asked of a file the load does not read, this throws rather than waits.
     const Slot& slot = slots_.at(i);
     for (;;) {
@@ -169,7 +194,7 @@ const std::optional<ReadRecords>& ListFileReads::Records(std::size_t i) {
         ReadUntakenFile();
     }
     if (slot.readFailure) std::rethrow_exception(slot.readFailure);
-    return slot.records;
+    return slot.walk;
 }
 
 void ListFileReads::Wait() {

@@ -1,15 +1,17 @@
 #pragma once
 // The files of one list load, read and tested on one thread of their own,
 // so that the windows can be made and shown meanwhile. The thread takes the
-// files in the load's order and reads them, then, once the tests are
-// allowed, asks the system, in one bulk call per file, whether the File,
-// Folder and Program targets are there. The load takes each file as soon as
-// it is read, in its own order, and the answers once they are all in; one
-// thread, because the window thread needs the other core of a small machine
-// while it makes the windows, and the tests wait until the windows shown
-// first are drawn for the same reason. A thread that waits for a file reads
-// the files not yet taken meanwhile, and one that waits for the answers
-// allows the tests and tests files itself.
+// files in the load's order, reads them and walks their values, which tells
+// whether a file breaks off without making a single record; then, once the
+// tests are allowed, it makes each file's records and asks the system, in
+// one bulk call per file, whether the File, Folder and Program targets are
+// there. The load takes each file as soon as it is walked, in its own
+// order, and the records and answers once they are all in; one thread,
+// because the window thread needs the other core of a small machine while
+// it makes the windows, and the records and tests wait until the windows
+// shown first are drawn for the same reason. A thread that waits for a file
+// reads the files not yet taken meanwhile, and one that waits for the
+// answers allows the tests and makes and tests files itself.
 #include <atomic>
 #include <condition_variable>
 #include <cstddef>
@@ -41,13 +43,22 @@ public:
     // Lets the thread go on from reading to testing; until then it waits
     // with the files read. Waiting for answers allows the tests too.
     void AllowTests();
-    // Waits until file `i` is read: its records, or none when there was no
-    // such file; throws what the reading threw.
+    // Whether a file is there, and the failure its records break off with.
+    struct Walk {
+        bool exists = false;
+        std::exception_ptr failure;
+    };
+    // Waits until file `i` is read and walked; throws what the reading threw.
+    Walk Walked(std::size_t i);
+    // Waits until file `i` is read, and makes its records here unless they
+    // are made already: its records, or none when there was no such file;
+    // throws what the reading threw.
     const std::optional<ReadRecords>& Records(std::size_t i);
     // Waits until every answer is in, testing files meanwhile.
     void Wait();
-    // Waits until the answers for file `i` are in, testing it here when no
-    // thread has taken it yet; the answers of other files are not awaited.
+    // Waits until the answers for file `i` are in, making its records and
+    // testing it here when no thread has taken it yet; the answers of other
+    // files are not awaited.
     void WaitFor(std::size_t i);
     // After Wait: the answers for the targets of file `i`, a File, Folder or
     // Program file that was read; throws what the system threw.
@@ -55,8 +66,13 @@ public:
 
 private:
     struct Slot {
-        std::optional<ReadRecords> records;
+        // The file as read and walked, until its records are made.
+        std::optional<WalkedListFile> walked;
+        Walk walk;
         std::exception_ptr readFailure;
+        std::once_flag made;
+        std::optional<ReadRecords> records;
+        std::exception_ptr makeFailure;
         std::vector<bool> passes;
         std::exception_ptr testFailure;
     };
@@ -67,6 +83,8 @@ private:
     void WaitUntilAllRead();
     void WaitUntilTestsAllowed();
     void Read(std::size_t i);
+    // Makes the records of a file read, once, on whichever thread asks first.
+    void Make(std::size_t i);
     void Test(std::size_t i);
     // Tests file after file not yet taken by another thread, until none is left.
     void TestUntakenFiles();

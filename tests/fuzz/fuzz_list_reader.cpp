@@ -1,11 +1,15 @@
 // Any bytes as a list file, loaded through the program's own loaders with any
 // counter: the lists stay paired and sorted, the only message is the
-// loader's bug report, and the lists saved afterwards load back unchanged.
+// loader's bug report, the lists saved afterwards load back unchanged, and
+// walking the file before making its records finds what reading it finds.
 #include <cstddef>
 #include <cstdint>
+#include <exception>
+#include <optional>
 
 #include "common/text_case.h"
 #include "data/launch_list.h"
+#include "data/list_file_read.h"
 #include "data/list_files.h"
 #include "kept_application.h"
 
@@ -112,6 +116,38 @@ void RequireRoundTrip(qs::fuzz::MemorySystem& sys, qs::Application& app, std::in
     back.EndInput();
 }
 
+// Walking the file and then making its records gives what reading it whole
+// gives: the same failure, found by the walk before any record is made,
+// and the same records.
+void RequireWalkAgrees(const qs::Application& app, const qs::ListFileOfLoad& file) {
+    std::optional<qs::ReadRecords> read;
+    bool readThrew = false;
+    try {
+        read = qs::ReadListFile(app, file);
+    } catch (const std::exception&) {
+        readThrew = true;
+    }
+    std::optional<qs::WalkedListFile> walked = qs::WalkListFile(app, file);
+    Require(walked.has_value() == (readThrew || read.has_value()));
+    if (!walked) return;
+    qs::ReadRecords made;
+    bool madeThrew = false;
+    try {
+        made = qs::MakeRecords(app, file, *walked);
+    } catch (const std::exception&) {
+        madeThrew = true;
+    }
+    Require(madeThrew == readThrew);
+    if (readThrew) return;
+    Require(static_cast<bool>(walked->failure) == static_cast<bool>(read->failure));
+    Require(static_cast<bool>(made.failure) == static_cast<bool>(read->failure));
+    Require(made.names.size() == read->names.size() && made.targets.size() == read->targets.size());
+    for (std::size_t i = 0; i < made.names.size(); ++i) {
+        Require(made.names[i].Text() == read->names[i].Text());
+        Require(made.targets[i].Text() == read->targets[i].Text());
+    }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -142,6 +178,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         qs::ActionLaunchListGet(app, group, lastIndex);
         routine = L"Quillstart:Bug:ActionLaunchListGet";
     }
+    RequireWalkAgrees(app, {group, lastIndex, flash});
     Require(dialogs.shown.size() <= 1);
     for (const auto& m : dialogs.shown) Require(m.key == routine);
     RequirePairedAndSorted(names, paths);
