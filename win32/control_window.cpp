@@ -37,18 +37,39 @@ void ControlWindow::CreateWhenOnForm() {
         waitsToShow_ = true;
         return;
     }
-    Create();
+    CreateOrStandOnFace();
 }
 
 void ControlWindow::CreateIfNowOnForm() {
     if (!waitsToShow_ || detached_ || !OnForm()) return;
     waitsToShow_ = false;
+    CreateOrStandOnFace();
+}
+
+void ControlWindow::CreateOrStandOnFace() {
+    // On a form made as it shows, the first paint draws such a control on
+    // the face, and the window comes right after that paint: a dozen
+    // picture buttons' windows are not made before the bar shows.
+    if (StandsOnFaceAtFirst() && form_.PicturesOnFace()) {
+        onFace_ = true;
+        return;
+    }
+    Create();
+}
+
+void ControlWindow::FacePainted() {
+    if (!onFace_ || detached_) return;
+    onFace_ = false;
     Create();
 }
 
 void ControlWindow::CreateChild(const wchar_t* windowClass, DWORD style, DWORD exStyle) {
     style |= WS_CHILD | WS_CLIPSIBLINGS;
-    if (control_.Shown()) style |= WS_VISIBLE;
+    // On a form already on screen a window made visible is erased before
+    // CreateWindowEx returns, a round trip to the server under Wine: it is
+    // shown after, without that, and its first paint erases it.
+    const bool showAfter = control_.Shown() && ::IsWindowVisible(form_.Handle()) != FALSE;
+    if (control_.Shown() && !showAfter) style |= WS_VISIBLE;
     if (!control_.Enabled()) style |= WS_DISABLED;
     const RECT r = PixelRect();
     std::optional<StyledControlsScope> styled;
@@ -62,6 +83,10 @@ void ControlWindow::CreateChild(const wchar_t* windowClass, DWORD style, DWORD e
     ::SendMessageW(window_.Get(), WM_SETFONT, reinterpret_cast<WPARAM>(ControlFont()), FALSE);
     if (!control_.ToolTipText().empty()) form_.SetToolTip(window_.Get(), control_.ToolTipText());
     WriteName();
+    if (showAfter) {
+        ::SetWindowPos(window_.Get(), nullptr, 0, 0, 0, 0,
+                       SWP_SHOWWINDOW | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_DEFERERASE);
+    }
     form_.ChildCreated();
 }
 
@@ -164,10 +189,12 @@ void ControlWindow::ApplyDpi() {
 void ControlWindow::Changed(ui::Property what) {
     if (detached_) return;
     if (what == ui::Property::Visible || what == ui::Property::Geometry) CreateIfNowOnForm();
-    if (what == ui::Property::Focus && waitsToShow_ && control_.Shown()) {
+    if (what == ui::Property::Focus && (waitsToShow_ || onFace_) && control_.Shown()) {
         // A box given the focus takes the keys even while the form's width
-        // leaves it out of sight, as it always has.
+        // leaves it out of sight, as it always has, or before the form's
+        // first paint.
         waitsToShow_ = false;
+        onFace_ = false;
         Create();
     }
     switch (what) {

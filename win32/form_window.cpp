@@ -81,6 +81,7 @@ FormWindow::FormWindow(HINSTANCE instance, ui::Form& form) : form_(form) {
         ApplyGeometry();
     }
     MakeFont();
+    madeShowing_ = form_.Visible();
     CreateControls();
     form_.AttachPeer(this);
     // A new window is not topmost.
@@ -136,11 +137,14 @@ void FormWindow::ChildCreated() {
 }
 
 void FormWindow::ApplyTabOrder() {
-    // Tab and Shift+Tab follow the order of the child windows.
+    // Tab and Shift+Tab follow the order of the child windows. The windows
+    // do not overlap, so the order changes nothing on screen: no erase of
+    // the form and its windows, a round trip each under Wine, is asked.
     HWND after = HWND_TOP;
     for (const ControlWindow* control : tabOrder_) {
         if (control->Handle() == nullptr) continue;
-        ::SetWindowPos(control->Handle(), after, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        ::SetWindowPos(control->Handle(), after, 0, 0, 0, 0,
+                       SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_DEFERERASE);
         after = control->Handle();
     }
     PutFramesBeneath();
@@ -397,12 +401,33 @@ void FormWindow::Paint() {
     UpdateFace();
     // The paint validates the whole window: a change from here on asks anew.
     repaintAsked_ = false;
-    PaintScope paint(Handle());
-    face_.PaintTo(paint.Get());
-    if (!painted_) {
-        painted_ = true;
-        marks::Mark("painted", form_.Name());
+    {
+        PaintScope paint(Handle());
+        face_.PaintTo(paint.Get());
     }
+    if (painted_) return;
+    painted_ = true;
+    marks::Mark("painted", form_.Name());
+    MakeFaceWindows();
+}
+
+void FormWindow::MakeFaceWindows() {
+    // Made in tab order, then put in it once for them all.
+    created_ = false;
+    bool made = false;
+    for (ControlWindow* control : tabOrder_) {
+        if (!control->OnFace()) continue;
+        control->FacePainted();
+        made = true;
+    }
+    created_ = true;
+    if (!made) return;
+    ApplyTabOrder();
+    // The face no longer carries what the new windows show. What shows of
+    // the face itself is the same, and the new windows paint anyway, so
+    // nothing is drawn again for it.
+    faceDirty_ = false;
+    face_.Update(DesignFace());
 }
 
 LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -61,7 +61,7 @@ FaceDesign FormWindow::DesignFace() const {
         if (!model.Shown()) continue;
         if (model.Kind() == ui::ControlKind::PictureBox) {
             const ui::PictureRef& picture = static_cast<const ui::PictureBox&>(model).Picture();
-            if (IsStripPicture(picture)) design.strips.push_back({ControlRect(model), picture});
+            if (IsStripPicture(picture) || control->OnFace()) design.strips.push_back({ControlRect(model), picture});
         }
         // On a dialog a thin line sets each shown text box's field off.
         if (dialog && model.Kind() == ui::ControlKind::TextBox && control->Handle() != nullptr) {
@@ -125,7 +125,7 @@ bool FormWindow::OverStrip(POINT point) const {
     for (const auto& control : controls_) {
         const ui::Control& model = control->Model();
         if (!model.Visible() || model.Kind() != ui::ControlKind::PictureBox) continue;
-        if (!IsStripPicture(static_cast<const ui::PictureBox&>(model).Picture())) continue;
+        if (!IsStripPicture(static_cast<const ui::PictureBox&>(model).Picture()) && !control->OnFace()) continue;
         const RECT r = ControlRect(model);
         if (::PtInRect(&r, point) != FALSE) return true;
     }

@@ -40,6 +40,8 @@ void PictureBoxWindow::Create() {
     if (!IsStripPicture(picture_.Picture())) MakeWindow();
 }
 
+bool PictureBoxWindow::StandsOnFaceAtFirst() const { return !IsStripPicture(picture_.Picture()); }
+
 void PictureBoxWindow::MakeWindow() {
     // A picture that answers keys is reached by Tab like any other control.
     CreateChild(PictureClass(), picture_.KeyPress ? WS_TABSTOP : 0);
@@ -58,7 +60,7 @@ void PictureBoxWindow::OnChanged(ui::Property what) {
     // becomes part of the face; one that stops showing a strip gets one.
     const bool strip = IsStripPicture(picture_.Picture());
     if (strip && Handle() != nullptr) DestroyChild();
-    if (!strip && Handle() == nullptr && !WaitsToShow()) MakeWindow();
+    if (!strip && Handle() == nullptr && !WaitsToShow() && !OnFace()) MakeWindow();
     if (Handle() != nullptr) ::InvalidateRect(Handle(), nullptr, FALSE);
     Form().FieldsMoved();
 }

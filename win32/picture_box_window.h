@@ -4,7 +4,8 @@
 // presses as MouseDown, MouseUp and, when released over it, Click; keys typed
 // while it has the focus as KeyPress. Its window text is its name for screen
 // readers and automation. A picture box showing a strip has no window: the
-// strip is part of the form's face.
+// strip is part of the form's face; until the form's first paint, neither
+// has any other picture, which that paint draws on the face as well.
 #include <windows.h>
 
 #include "control_window.h"
@@ -21,6 +22,7 @@ public:
 protected:
     void OnChanged(ui::Property what) override;
     bool TextIsName() const override { return true; }
+    bool StandsOnFaceAtFirst() const override;
 
 private:
     static LRESULT PictureProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* self);
