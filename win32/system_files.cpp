@@ -62,7 +62,22 @@ void Win32System::DeleteFile(const std::wstring& path) {
     if (!::DeleteFileW(path.c_str())) ThrowLastError("DeleteFileW");
 }
 
-std::wstring Win32System::ReadTextFile(const std::wstring& path) {
+std::wstring Win32System::ReadTextFile(const std::wstring& path) { return FromAnsi(ReadFileBytes(path)); }
+
+std::wstring Win32System::TextOfBytes(const std::string& bytes) { return FromAnsi(bytes); }
+
+bool Win32System::OneCharacterPerByte() {
+    // Every code page Windows runs as the ANSI one keeps the ASCII
+    // characters where they are; a single-byte one maps each byte to one
+    // character.
+    static const bool single = [] {
+        CPINFO info{};
+        return ::GetCPInfo(CP_ACP, &info) != FALSE && info.MaxCharSize == 1;
+    }();
+    return single;
+}
+
+std::string Win32System::ReadFileBytes(const std::wstring& path) {
     FileHandle file(::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                                   FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!file) ThrowLastError("CreateFileW");
@@ -75,7 +90,7 @@ std::wstring Win32System::ReadTextFile(const std::wstring& path) {
         ThrowLastError("ReadFile");
     }
     bytes.resize(read);
-    return FromAnsi(bytes);
+    return bytes;
 }
 
 void Win32System::WriteTextFile(const std::wstring& path, const std::wstring& text) {

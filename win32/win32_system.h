@@ -31,6 +31,9 @@ public:
     std::int32_t GetAttributes(const std::wstring& path) override;
     void DeleteFile(const std::wstring& path) override;
     std::wstring ReadTextFile(const std::wstring& path) override;
+    std::string ReadFileBytes(const std::wstring& path) override;
+    std::wstring TextOfBytes(const std::string& bytes) override;
+    bool OneCharacterPerByte() override;
     void WriteTextFile(const std::wstring& path, const std::wstring& text) override;
 
     std::wstring ApplicationFolder() override;

@@ -28,7 +28,6 @@ namespace ui {
 class Backend;
 }
 struct PendingListLoad;
-class ListFileReads;
 
 struct Application {
     explicit Application(System& system);
@@ -91,11 +90,9 @@ struct Application {
     FrmHelp frmHelp;
     FrmMessage frmMessage;
 
-    // The list load whose target tests are still running, if any.
+    // The list load whose target tests are still running, if any. Last, so
+    // that its thread ends before the place it reads from goes.
     std::unique_ptr<PendingListLoad> pendingListLoad;
-    // The list files being read ahead of the load at start-up. Last, so that
-    // its thread ends before the place it reads from goes.
-    std::unique_ptr<ListFileReads> listReadAhead;
 };
 
 }  // namespace qs

@@ -27,41 +27,44 @@ bool RecordReader::AtEnd() const {
     return true;
 }
 
-void RecordReader::SkipDelimiter() {
-    // After a value: blanks, then one comma or one line end (CR LF, CR or LF).
-    while (at_ < text_.size() && (text_[at_] == L' ' || text_[at_] == L'\t')) ++at_;
-    if (at_ >= text_.size()) return;
-    if (text_[at_] == L',') {
-        ++at_;
-    } else if (text_[at_] == L'\r') {
-        ++at_;
-        if (at_ < text_.size() && text_[at_] == L'\n') ++at_;
-    } else if (text_[at_] == L'\n') {
-        ++at_;
-    }
-}
-
-std::wstring_view RecordReader::ReadView() {
-    while (at_ < text_.size() && (text_[at_] == L' ' || text_[at_] == L'\t')) ++at_;
-    if (at_ >= text_.size()) throw InputPastEnd();
-    const std::wstring_view text(text_);
-    std::wstring_view value;
-    if (text_[at_] == L'"') {
-        const std::size_t close = text_.find(L'"', at_ + 1);
-        const std::size_t end = close == std::wstring::npos ? text_.size() : close;
-        value = text.substr(at_ + 1, end - at_ - 1);
-        at_ = close == std::wstring::npos ? text_.size() : close + 1;
+template <typename Char>
+std::basic_string_view<Char> NextValue(std::basic_string_view<Char> text, std::size_t& at) {
+    const auto blank = [](Char c) { return c == Char(' ') || c == Char('\t'); };
+    const auto ends = [](Char c) { return c == Char(',') || c == Char('\r') || c == Char('\n'); };
+    while (at < text.size() && blank(text[at])) ++at;
+    if (at >= text.size()) throw InputPastEnd();
+    std::basic_string_view<Char> value;
+    if (text[at] == Char('"')) {
+        const std::size_t close = text.find(Char('"'), at + 1);
+        const std::size_t end = close == std::basic_string_view<Char>::npos ? text.size() : close;
+        value = text.substr(at + 1, end - at - 1);
+        at = close == std::basic_string_view<Char>::npos ? text.size() : close + 1;
         // Anything between the closing quote and the delimiter is dropped.
-        while (at_ < text_.size() && text_[at_] != L',' && !IsLineEnd(text_[at_])) ++at_;
+        while (at < text.size() && !ends(text[at])) ++at;
     } else {
-        const std::size_t start = at_;
-        while (at_ < text_.size() && text_[at_] != L',' && !IsLineEnd(text_[at_])) ++at_;
-        value = text.substr(start, at_ - start);
-        while (!value.empty() && (value.back() == L' ' || value.back() == L'\t')) value.remove_suffix(1);
+        const std::size_t start = at;
+        while (at < text.size() && !ends(text[at])) ++at;
+        value = text.substr(start, at - start);
+        while (!value.empty() && blank(value.back())) value.remove_suffix(1);
     }
-    SkipDelimiter();
+    // After a value: blanks, then one comma or one line end (CR LF, CR or LF).
+    while (at < text.size() && blank(text[at])) ++at;
+    if (at >= text.size()) return value;
+    if (text[at] == Char(',')) {
+        ++at;
+    } else if (text[at] == Char('\r')) {
+        ++at;
+        if (at < text.size() && text[at] == Char('\n')) ++at;
+    } else if (text[at] == Char('\n')) {
+        ++at;
+    }
     return value;
 }
+
+template std::string_view NextValue<char>(std::string_view, std::size_t&);
+template std::wstring_view NextValue<wchar_t>(std::wstring_view, std::size_t&);
+
+std::wstring_view RecordReader::ReadView() { return NextValue<wchar_t>(text_, at_); }
 
 std::wstring RecordReader::ReadString() { return std::wstring(ReadView()); }
 

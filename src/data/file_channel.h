@@ -16,6 +16,12 @@ struct Application;
 std::wstring ReadDataFile(const Application& app, const std::wstring& path);
 void WriteDataFile(Application& app, const std::wstring& path, const std::wstring& text);
 
+// The next value of a file's text, or of its bytes where each byte is one
+// character, from `at` on, read as RecordReader reads it: `at` moves past
+// the value and its delimiter. Throws InputPastEnd at the end.
+template <typename Char>
+std::basic_string_view<Char> NextValue(std::basic_string_view<Char> text, std::size_t& at);
+
 // Reads values one at a time from a file's text. Spaces before a value are
 // skipped; a value that begins with a double quote runs to the next double
 // quote; anything else runs up to the next comma or line end. Reading past
@@ -33,14 +39,11 @@ public:
     std::int32_t ReadInt32();
     // True when only blanks and line ends remain.
     bool AtEnd() const;
-    // Reads again from the first value.
-    void Restart() { at_ = 0; }
     // The length of the whole text, in characters.
     std::size_t Length() const { return text_.size(); }
 
 private:
     long long ReadInteger(long long low, long long high);
-    void SkipDelimiter();
 
     std::wstring text_;
     std::size_t at_ = 0;

@@ -24,10 +24,6 @@ void ActionLaunchListSave(Application& app, std::int16_t group, std::int16_t las
 // Writes one flash-side file; the group comes as decimal text, "0" to "2".
 void ActionLaunchListSaveUSB(Application& app, const std::wstring& group, std::int16_t lastIndex);
 
-// Starts reading the files of the coming LaunchListLoad, and testing their
-// targets, on a thread of its own, so that the windows made before the
-// load are made meanwhile.
-void LaunchListReadAhead(Application& app);
 // The list part of frmChoose's load: the computer's five lists in group
 // order, then, on a flash drive, the flash drive's three. The files are
 // read on a thread of their own (the one started ahead, when the files

@@ -66,15 +66,6 @@ void AddFlashSide(Application& app, std::int16_t group, const ReadRecords& recor
     }
 }
 
-// The reads of a load: those started ahead at start-up when they are for
-// the same files, else new ones.
-std::unique_ptr<ListFileReads> ReadsForLoad(Application& app) {
-    std::unique_ptr<ListFileReads> reads = std::move(app.listReadAhead);
-    if (reads && reads->Files() == ListFilesOfLoad(app)) return reads;
-    ui::Backend* const windows = app.backend;
-    return std::make_unique<ListFileReads>(app, windows != nullptr ? windows->PendingWorkWaker() : nullptr);
-}
-
 // Takes file `i` of the load as walked: its records are made and wait to
 // join the lists until input may come, the File, Folder and Program records
 // for their answers too, since nothing on screen shows them before. A
@@ -148,22 +139,16 @@ void ActionLaunchListGetUSB(Application& app, std::int16_t group, std::int16_t l
     }
 }
 
-void LaunchListReadAhead(Application& app) {
-    ui::Backend* const windows = app.backend;
-    app.listReadAhead =
-        std::make_unique<ListFileReads>(app, windows != nullptr ? windows->PendingWorkWaker() : nullptr);
-}
-
 void LaunchListLoad(Application& app) {
     LaunchListSettle(app);
     auto load = std::make_unique<PendingListLoad>();
-    load->reads = ReadsForLoad(app);
+    ui::Backend* const windows = app.backend;
+    load->reads = std::make_unique<ListFileReads>(app, windows != nullptr ? windows->PendingWorkWaker() : nullptr);
     for (std::size_t i = 0; i < load->reads->Files().size(); ++i) TakeFile(app, *load, i);
     ListFileReads& reads = *load->reads;
     app.pendingListLoad = std::move(load);
     // The bar may show while the targets are tested; nothing the user does
     // reaches a form before the lists are whole.
-    ui::Backend* const windows = app.backend;
     if (windows == nullptr) {
         LaunchListSettle(app);
         return;

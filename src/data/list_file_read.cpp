@@ -42,15 +42,28 @@ ReadRecords RoomFor(std::int16_t lastIndex, std::size_t fileLength) {
     return records;
 }
 
+// The values of a file's text, or of its bytes, read in place as
+// RecordReader reads them.
+template <typename Char>
+class Values {
+public:
+    explicit Values(std::basic_string_view<Char> text) : text_(text) {}
+    std::basic_string_view<Char> ReadView() { return NextValue<Char>(text_, at_); }
+
+private:
+    std::basic_string_view<Char> text_;
+    std::size_t at_ = 0;
+};
+
 // Walks a computer-side file's records up to the stored last index, giving
 // each name and target to `keep`; returns the failure that ended the walk
 // early, if any. The records kept before a failure stay kept.
-template <typename Keep>
-std::exception_ptr WalkComputerSide(RecordReader& reader, std::int16_t lastIndex, Keep keep) {
+template <typename Reader, typename Keep>
+std::exception_ptr WalkComputerSide(Reader& reader, std::int16_t lastIndex, Keep keep) {
     try {
         for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
-            const std::wstring_view name = reader.ReadView();
-            const std::wstring_view target = reader.ReadView();
+            const auto name = reader.ReadView();
+            const auto target = reader.ReadView();
             keep(name, target);
         }
     } catch (const std::exception&) {
@@ -61,12 +74,12 @@ std::exception_ptr WalkComputerSide(RecordReader& reader, std::int16_t lastIndex
 
 // The same for a flash-side file, which ends early, without a word, at an
 // empty name or target.
-template <typename Keep>
-std::exception_ptr WalkFlashSide(RecordReader& reader, std::int16_t lastIndex, Keep keep) {
+template <typename Reader, typename Keep>
+std::exception_ptr WalkFlashSide(Reader& reader, std::int16_t lastIndex, Keep keep) {
     try {
         for (std::int16_t i = 0; i <= lastIndex; i = NextIndex(i)) {
-            const std::wstring_view name = reader.ReadView();
-            const std::wstring_view stored = reader.ReadView();
+            const auto name = reader.ReadView();
+            const auto stored = reader.ReadView();
             if (name.empty() || stored.empty()) break;
             keep(name, stored);
         }
@@ -76,8 +89,8 @@ std::exception_ptr WalkFlashSide(RecordReader& reader, std::int16_t lastIndex, K
     return nullptr;
 }
 
-template <typename Keep>
-std::exception_ptr Walk(RecordReader& reader, const ListFileOfLoad& file, Keep keep) {
+template <typename Reader, typename Keep>
+std::exception_ptr Walk(Reader& reader, const ListFileOfLoad& file, Keep keep) {
     return file.flashSide ? WalkFlashSide(reader, file.lastIndex, keep)
                           : WalkComputerSide(reader, file.lastIndex, keep);
 }
@@ -98,8 +111,12 @@ ReadRecords Records(const Application& app, RecordReader& reader, const ListFile
     return records;
 }
 
+const std::wstring& ListFilePath(const Application& app, const ListFileOfLoad& file) {
+    return file.flashSide ? FlashSideFile(app, file.group) : ComputerSideFile(app, file.group);
+}
+
 std::optional<RecordReader> ReadText(const Application& app, const ListFileOfLoad& file) {
-    const std::wstring& path = file.flashSide ? FlashSideFile(app, file.group) : ComputerSideFile(app, file.group);
+    const std::wstring& path = ListFilePath(app, file);
     if (!app.sys.FileExists(path)) return std::nullopt;
     return RecordReader(ReadDataFile(app, path));
 }
@@ -133,16 +150,30 @@ std::optional<ReadRecords> ReadListFile(const Application& app, const ListFileOf
 }
 
 std::optional<WalkedListFile> WalkListFile(const Application& app, const ListFileOfLoad& file) {
-    std::optional<RecordReader> reader = ReadText(app, file);
-    if (!reader) return std::nullopt;
-    WalkedListFile walked{std::move(*reader), nullptr};
-    walked.failure = Walk(walked.reader, file, [](std::wstring_view, std::wstring_view) {});
+    const std::wstring& path = ListFilePath(app, file);
+    if (!app.sys.FileExists(path)) return std::nullopt;
+    WalkedListFile walked;
+    walked.bytes = app.sys.ReadFileBytes(path);
+    const auto nothing = [](auto, auto) {};
+    if (app.sys.OneCharacterPerByte()) {
+        // The values lie where they lie in the text: no text is made yet.
+        walked.inBytes = true;
+        Values<char> values(walked.bytes);
+        walked.failure = Walk(values, file, nothing);
+    } else {
+        walked.text = app.sys.TextOfBytes(walked.bytes);
+        walked.bytes = std::string();
+        Values<wchar_t> values(walked.text);
+        walked.failure = Walk(values, file, nothing);
+    }
     return walked;
 }
 
 ReadRecords MakeRecords(const Application& app, const ListFileOfLoad& file, WalkedListFile& walked) {
-    walked.reader.Restart();
-    return Records(app, walked.reader, file);
+    RecordReader reader(walked.inBytes ? app.sys.TextOfBytes(walked.bytes) : std::move(walked.text));
+    walked.bytes = std::string();
+    walked.text = std::wstring();
+    return Records(app, reader, file);
 }
 
 std::vector<std::wstring_view> TargetViews(const std::vector<ui::SharedText>& targets) {

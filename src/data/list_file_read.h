@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <exception>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -46,9 +47,12 @@ std::optional<ReadRecords> ReadListFile(const Application& app, const ListFileOf
 
 // A list file read and its values walked through without keeping any, so
 // that whether its records break off is known long before they are made:
-// the text, and the failure that making the records will end with.
+// the file's bytes, walked as they are where each byte is one character,
+// else its text; and the failure that making the records will end with.
 struct WalkedListFile {
-    RecordReader reader;
+    std::string bytes;
+    std::wstring text;
+    bool inBytes = false;
     std::exception_ptr failure;
 };
 

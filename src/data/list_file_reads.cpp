@@ -23,30 +23,19 @@ ListFileReads::ListFileReads(const Application& app, std::function<void()> finis
       taken_(files_.size(), false),
       answered_(files_.size(), false),
       filesLeft_(files_.size()) {
-    // Without a list file there is nothing to wait for on another thread.
-    if (files_.empty()) {
-        Run();
-        return;
-    }
-    try {
-        thread_ = std::thread([this] { Run(); });
-    } catch (const std::system_error&) {
-        Run();  // no thread to be had: read and test here
-    }
+    if (!files_.empty()) return;
+    // Without a list file there is nothing to wait for.
+    marks::Mark("list files read");
+    if (finished_) finished_();
 }
 
 ListFileReads::~ListFileReads() { Wait(); }
 
 void ListFileReads::Run() {
+    // The files the load has not asked for yet are read here first.
     while (ReadUntakenFile()) {
     }
     WaitUntilAllRead();
-    marks::Mark("list files read");
-    if (files_.empty()) {
-        if (finished_) finished_();
-        return;
-    }
-    WaitUntilTestsAllowed();
     TestUntakenFiles();
 }
 
@@ -57,24 +46,26 @@ void ListFileReads::AllowTests() {
         testsAllowed_ = true;
     }
     marks::Mark("list tests allowed");
-    testsAllowedChanged_.notify_all();
-}
-
-void ListFileReads::WaitUntilTestsAllowed() {
-    std::unique_lock<std::mutex> lock(mutex_);
-    testsAllowedChanged_.wait(lock, [this] { return testsAllowed_; });
+    if (files_.empty()) return;
+    try {
+        thread_ = std::thread([this] { Run(); });
+    } catch (const std::system_error&) {
+        // No thread to be had: whoever waits for the answers tests the files.
+    }
 }
 
 bool ListFileReads::ReadUntakenFile() {
     const std::size_t i = nextRead_.fetch_add(1);
     if (i >= files_.size()) return false;
     Read(i);
+    bool all = false;
     {
         const std::lock_guard<std::mutex> lock(mutex_);
         read_[i] = true;
-        ++filesRead_;
+        all = ++filesRead_ == files_.size();
     }
     fileRead_.notify_all();
+    if (all) marks::Mark("list files read");
     return true;
 }
 
@@ -182,10 +173,9 @@ ListFileReads::Walk ListFileReads::Walked(std::size_t i) {
         {
             std::unique_lock<std::mutex> lock(mutex_);
             if (read_[i]) break;
-            // While a file is left untaken, the waiting thread reads it
-            // itself, on a core of its own, in the order they are taken,
-            // so that the reading goes on beside the file being read
-            // elsewhere; with none left, that file is waited for.
+            // While a file is left untaken, the asking thread reads the
+            // next one itself, in the load's order; with none left, the
+            // file the testing thread is reading is waited for.
             if (nextRead_.load() >= files_.size()) {
                 fileRead_.wait(lock, [this, i] { return read_[i]; });
                 break;
@@ -199,7 +189,7 @@ ListFileReads::Walk ListFileReads::Walked(std::size_t i) {
 
 void ListFileReads::Wait() {
     // The waiting thread has nothing else to do: it reads and then tests
-    // the files the reading thread has not taken yet, on a core of its own.
+    // the files the testing thread has not taken yet, on a core of its own.
     AllowTests();
     while (ReadUntakenFile()) {
     }

@@ -1,17 +1,15 @@
 #pragma once
-// The files of one list load, read and tested on one thread of their own,
-// so that the windows can be made and shown meanwhile. The thread takes the
-// files in the load's order, reads them and walks their values, which tells
-// whether a file breaks off without making a single record; then, once the
-// tests are allowed, it makes each file's records and asks the system, in
+// The files of one list load: read and walked, in the load's order, on the
+// thread that asks for them, which tells whether a file breaks off without
+// making a single record; then, once the tests are allowed, made into
+// records and tested on a thread of their own, which asks the system, in
 // one bulk call per file, whether the File, Folder and Program targets are
-// there. The load takes each file as soon as it is walked, in its own
-// order, and the records and answers once they are all in; one thread,
-// because the window thread needs the other core of a small machine while
-// it makes the windows, and the records and tests wait until the windows
-// shown first are drawn for the same reason. A thread that waits for a file
-// reads the files not yet taken meanwhile, and one that waits for the
-// answers allows the tests and makes and tests files itself.
+// there. No thread is made before: under Wine a second thread in the
+// process, even one long ended, makes the first window's making slower by
+// more than the walks take, and the tests wait until the windows shown
+// first are drawn so as to take no core from them. A thread that waits for
+// the answers or the records allows the tests and makes and tests files
+// itself beside the testing thread.
 #include <atomic>
 #include <condition_variable>
 #include <cstddef>
@@ -28,7 +26,7 @@ namespace qs {
 
 class ListFileReads {
 public:
-    // Starts on the files of the load as the settings stand now; `finished`
+    // Takes the files of the load as the settings stand now; `finished`
     // is called once, on the thread that found the last answer, when every
     // answer is in. Only the program's place and the system are used off the
     // window thread, and neither changes while a load is under way; the
@@ -40,15 +38,16 @@ public:
     ~ListFileReads();
 
     const std::vector<ListFileOfLoad>& Files() const { return files_; }
-    // Lets the thread go on from reading to testing; until then it waits
-    // with the files read. Waiting for answers allows the tests too.
+    // Starts the thread that makes the records and tests the targets; until
+    // then nothing is made or tested. Waiting for answers allows it too.
     void AllowTests();
     // Whether a file is there, and the failure its records break off with.
     struct Walk {
         bool exists = false;
         std::exception_ptr failure;
     };
-    // Waits until file `i` is read and walked; throws what the reading threw.
+    // Reads and walks the files up to `i` not yet read, here, and waits
+    // for one being read by another thread; throws what the reading threw.
     Walk Walked(std::size_t i);
     // Waits until file `i` is read, and makes its records here unless they
     // are made already: its records, or none when there was no such file;
@@ -81,7 +80,6 @@ private:
     // Takes the next file not yet taken and reads it; false when none is left.
     bool ReadUntakenFile();
     void WaitUntilAllRead();
-    void WaitUntilTestsAllowed();
     void Read(std::size_t i);
     // Makes the records of a file read, once, on whichever thread asks first.
     void Make(std::size_t i);
@@ -107,7 +105,6 @@ private:
     std::size_t filesRead_ = 0;
     std::atomic<std::size_t> nextRead_ = 0;
     bool testsAllowed_ = false;
-    std::condition_variable testsAllowedChanged_;
     // Which files are taken for testing and which have their answers, and
     // how many are not yet answered.
     std::vector<bool> taken_;

@@ -138,6 +138,16 @@ public:
     // from wide text here and nowhere else. Both throw SystemCallFailed.
     virtual std::wstring ReadTextFile(const std::wstring& path) = 0;
     virtual void WriteTextFile(const std::wstring& path, const std::wstring& text) = 0;
+    // The same read in two steps, for a reader that looks at a file's bytes
+    // long before it needs their text: the bytes, read whole (throws
+    // SystemCallFailed), then their text, so that ReadTextFile(path) is
+    // TextOfBytes(ReadFileBytes(path)). OneCharacterPerByte is true when
+    // the code page turns each byte into one character, and each byte
+    // below 128 into that same character: byte i of a file is then
+    // character i of its text.
+    virtual std::string ReadFileBytes(const std::wstring& path) = 0;
+    virtual std::wstring TextOfBytes(const std::string& bytes) = 0;
+    virtual bool OneCharacterPerByte() = 0;
 
     // Existence in bulk, for the thousands of targets a list load tests at
     // once: answer i is exactly what FileExists (FilesExist) or FolderExists

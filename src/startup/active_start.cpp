@@ -55,9 +55,6 @@ void Main(Application& app) {
         AutostartRegister(app);
     marks::Mark("Main records and options");
 
-    // The list files are read while the bar and its pane are made.
-    LaunchListReadAhead(app);
-    marks::Mark("Main list reads started");
     app.frmMain.Load();
     marks::Mark("Main frmMain loaded");
     app.frmBrowse.Load();

@@ -155,12 +155,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::int16_t group = static_cast<std::int16_t>(data[0] % 5);
     const bool flash = (data[0] & 0x08) != 0 && group < 3;
     const bool prefilled = (data[0] & 0x10) != 0;
+    // Read as Latin-1 bytes, walked in place, or as text of wider characters.
+    const bool latin1 = (data[0] & 0x20) != 0;
     const auto lastIndex = static_cast<std::int16_t>(data[1] | (data[2] << 8));
     const std::wstring file = qs::fuzz::FromBytes(data + 3, size - 3);
 
     qs::fuzz::KeptApplication& kept = Loading();
     qs::fuzz::MemorySystem& sys = kept.sys;
     sys.exists = OddLength;
+    sys.latin1 = latin1;
     qs::Application& app = kept.app;
     const auto& dialogs = kept.dialogs;
     app.place = Place(flash);

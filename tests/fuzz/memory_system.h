@@ -23,6 +23,8 @@ class MemorySystem : public System {
 public:
     std::vector<Launch> launches;
     std::map<std::wstring, std::wstring> files;
+    // Whether the files are read as the Latin-1 bytes of their text.
+    bool latin1 = false;
     // Whether a path that is not among `files` exists, as file or folder.
     std::function<bool(const std::wstring&)> exists = [](const std::wstring&) { return false; };
 
@@ -59,10 +61,37 @@ public:
     std::int32_t GetAttributes(const std::wstring&) override { return 32; }
     void DeleteFile(const std::wstring& path) override { files.erase(path); }
     std::wstring ReadTextFile(const std::wstring& path) override {
+        if (latin1) return TextOfBytes(ReadFileBytes(path));
         const auto at = files.find(path);
         if (at == files.end()) throw SystemCallFailed("cannot open");
         return at->second;
     }
+    // With `latin1` the files are Latin-1 bytes, a character above 255
+    // read as '?'; without it each character is two bytes, low byte first.
+    std::string ReadFileBytes(const std::wstring& path) override {
+        const auto at = files.find(path);
+        if (at == files.end()) throw SystemCallFailed("cannot open");
+        std::string bytes;
+        for (const wchar_t c : at->second) {
+            if (latin1) {
+                bytes.push_back(c <= 0xFF ? static_cast<char>(c) : '?');
+            } else {
+                bytes.push_back(static_cast<char>(c & 0xFF));
+                bytes.push_back(static_cast<char>((c >> 8) & 0xFF));
+            }
+        }
+        return bytes;
+    }
+    std::wstring TextOfBytes(const std::string& bytes) override {
+        std::wstring text;
+        const std::size_t step = latin1 ? 1 : 2;
+        for (std::size_t i = 0; i + step <= bytes.size(); i += step) {
+            const auto low = static_cast<unsigned char>(bytes[i]);
+            text.push_back(latin1 ? low : static_cast<wchar_t>(low | static_cast<unsigned char>(bytes[i + 1]) << 8));
+        }
+        return text;
+    }
+    bool OneCharacterPerByte() override { return latin1; }
     void WriteTextFile(const std::wstring& path, const std::wstring& text) override { files[path] = text; }
     std::wstring ApplicationFolder() override { return L"C:\\Tools\\"; }
     bool AnotherCopyRunning() override { return false; }

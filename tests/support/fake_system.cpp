@@ -225,14 +225,18 @@ void FakeSystem::DeleteFile(const std::wstring& path) {
     fs::remove(HostPath(path));
 }
 
-std::wstring FakeSystem::ReadTextFile(const std::wstring& path) {
+std::wstring FakeSystem::ReadTextFile(const std::wstring& path) { return TextOfBytes(ReadFileBytes(path)); }
+
+std::string FakeSystem::ReadFileBytes(const std::wstring& path) {
     const fs::path host = HostPath(path);
     if (!fs::is_regular_file(host)) throw SystemCallFailed("cannot open");
     std::ifstream in(host, std::ios::binary);
     std::ostringstream bytes;
     bytes << in.rdbuf();
-    return FromLatin1(bytes.str());
+    return bytes.str();
 }
+
+std::wstring FakeSystem::TextOfBytes(const std::string& bytes) { return FromLatin1(bytes); }
 
 void FakeSystem::WriteTextFile(const std::wstring& path, const std::wstring& text) {
     for (const auto& prefix : readOnlyPrefixes)

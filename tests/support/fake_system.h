@@ -87,6 +87,12 @@ public:
     std::int32_t GetAttributes(const std::wstring& path) override;
     void DeleteFile(const std::wstring& path) override;
     std::wstring ReadTextFile(const std::wstring& path) override;
+    std::string ReadFileBytes(const std::wstring& path) override;
+    std::wstring TextOfBytes(const std::string& bytes) override;
+    // The files hold Latin-1, one character per byte; a test may say
+    // otherwise, so that the readers take the road of other code pages.
+    bool OneCharacterPerByte() override { return oneCharacterPerByte; }
+    bool oneCharacterPerByte = true;
     void WriteTextFile(const std::wstring& path, const std::wstring& text) override;
     std::wstring ApplicationFolder() override { return applicationFolder; }
     bool AnotherCopyRunning() override { return anotherCopyRunning; }

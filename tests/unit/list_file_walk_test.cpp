@@ -1,6 +1,7 @@
-// A list file walked before its records are made: the walk finds exactly
-// the failure that making the records ends with, and the records made from
-// the walk are those of a read of the whole file, on either side, for
+// A list file walked before its records are made, in its bytes or in its
+// text: the walk finds exactly the failure that making the records ends
+// with, and the records made from the walk are those of a read of the
+// whole file, on either side, for
 // whole files, files that break off, files cut at an empty flash name and
 // counts past the last index a list can hold. A load takes a damaged
 // file's report from the walk, before any record is made.
@@ -27,9 +28,14 @@ Names Texts(const std::vector<ui::SharedText>& texts) {
     return out;
 }
 
-struct Walking : ::testing::Test {
+// Run with the files walked as bytes, and as text, as on a machine whose
+// code page has characters of more than one byte.
+struct Walking : ::testing::TestWithParam<bool> {
     TestApp t;
-    void SetUp() override { SetUpFlashRun(t, L'E'); }
+    void SetUp() override {
+        SetUpFlashRun(t, L'E');
+        t.sys.oneCharacterPerByte = GetParam();
+    }
 
     // Stores `bytes` as the Program file of one side.
     ListFileOfLoad Store(const std::string& bytes, std::int16_t lastIndex, bool flashSide) {
@@ -46,6 +52,7 @@ struct Walking : ::testing::Test {
         EXPECT_TRUE(read.has_value());
         EXPECT_TRUE(walked.has_value());
         if (!read || !walked) return false;
+        EXPECT_EQ(walked->inBytes, GetParam());
         const bool walkFailed = static_cast<bool>(walked->failure);
         EXPECT_EQ(walkFailed, static_cast<bool>(read->failure));
         const ReadRecords made = MakeRecords(t.app, file, *walked);
@@ -56,46 +63,56 @@ struct Walking : ::testing::Test {
     }
 };
 
-TEST_F(Walking, AWholeFileWalksWithoutAFailureOnEitherSide) {
+TEST_P(Walking, AWholeFileWalksWithoutAFailureOnEitherSide) {
     const std::string bytes = ListFileBytes({{"ant", "C:\\Apps\\a.exe"}, {"bee", "#:\\Apps\\b.exe"}});
     EXPECT_FALSE(WalkAgreesWithRead(Store(bytes, 1, false)));
     EXPECT_FALSE(WalkAgreesWithRead(Store(bytes, 1, true)));
 }
 
-TEST_F(Walking, AFileThatBreaksOffBeforeTheLastIndexFailsOnEitherSide) {
+TEST_P(Walking, AFileThatBreaksOffBeforeTheLastIndexFailsOnEitherSide) {
     const std::string bytes = ListFileBytes({{"ant", "C:\\Apps\\a.exe"}}) + "\"cut\"";
     EXPECT_TRUE(WalkAgreesWithRead(Store(bytes, 1, false)));
     EXPECT_TRUE(WalkAgreesWithRead(Store(bytes, 1, true)));
 }
 
-TEST_F(Walking, AFileHoldingFewerRecordsThanItsIndexCountsFails) {
+TEST_P(Walking, AFileHoldingFewerRecordsThanItsIndexCountsFails) {
     EXPECT_TRUE(WalkAgreesWithRead(Store(ListFileBytes({{"ant", "C:\\a.exe"}}), 4, false)));
 }
 
-TEST_F(Walking, AFlashSideFileEndsQuietlyAtAnEmptyNameThoughItsIndexCountsMore) {
+TEST_P(Walking, AFlashSideFileEndsQuietlyAtAnEmptyNameThoughItsIndexCountsMore) {
     const std::string bytes = ListFileBytes({{"ant", "#:\\a.exe"}, {"", "#:\\b.exe"}, {"cat", "#:\\c.exe"}});
     EXPECT_FALSE(WalkAgreesWithRead(Store(bytes, 2, true)));
     // The computer's side keeps the empty name and reads on.
     EXPECT_FALSE(WalkAgreesWithRead(Store(bytes, 2, false)));
 }
 
-TEST_F(Walking, ALastIndexAtTheLargestCountFailsWhereTheIndexWouldPassIt) {
+TEST_P(Walking, ALastIndexAtTheLargestCountFailsWhereTheIndexWouldPassIt) {
     std::vector<std::pair<std::string, std::string>> records;
     for (int i = 0; i <= INT16_MAX; ++i) records.emplace_back("n" + std::to_string(i), "C:\\t" + std::to_string(i));
     EXPECT_TRUE(WalkAgreesWithRead(Store(ListFileBytes(records), INT16_MAX, false)));
 }
 
-TEST_F(Walking, QuotedValuesHoldingCommasAndTextAfterAClosingQuoteWalkAsTheyRead) {
+TEST_P(Walking, QuotedValuesHoldingCommasAndTextAfterAClosingQuoteWalkAsTheyRead) {
     const std::string bytes = "\"a, b\"junk,\"C:\\x.exe\"\r\n  plain , C:\\y.exe \r\n\"open";
     EXPECT_TRUE(WalkAgreesWithRead(Store(bytes, 2, false)));
     EXPECT_FALSE(WalkAgreesWithRead(Store(bytes, 1, false)));
 }
 
-TEST_F(Walking, NoFileWalksAsNoFile) {
+TEST_P(Walking, CharactersBeyondAsciiComeBackAsTheCodePageGivesThem) {
+    const ListFileOfLoad file = Store(ListFileBytes({{"caf\xE9", "C:\\\xC4pfel.exe"}}), 0, false);
+    EXPECT_FALSE(WalkAgreesWithRead(file));
+    std::optional<WalkedListFile> walked = WalkListFile(t.app, file);
+    ASSERT_TRUE(walked.has_value());
+    const ReadRecords made = MakeRecords(t.app, file, *walked);
+    EXPECT_EQ(Texts(made.names), (Names{L"caf\u00E9"}));
+    EXPECT_EQ(Texts(made.targets), (Names{L"C:\\\u00C4pfel.exe"}));
+}
+
+TEST_P(Walking, NoFileWalksAsNoFile) {
     EXPECT_FALSE(WalkListFile(t.app, {2, 0, false}).has_value());
 }
 
-TEST_F(Walking, TheReadsTellAFileThatBreaksOffFromItsWalkAndMakeItsRecordsWhenAsked) {
+TEST_P(Walking, TheReadsTellAFileThatBreaksOffFromItsWalkAndMakeItsRecordsWhenAsked) {
     StoreListCounts(t.app.settings, {.program = 1});
     Store(ListFileBytes({{"ant", "C:\\Apps\\a.exe"}}) + "\"cut\"", 1, false);
     ListFileReads reads(t.app, {});
@@ -110,7 +127,7 @@ TEST_F(Walking, TheReadsTellAFileThatBreaksOffFromItsWalkAndMakeItsRecordsWhenAs
     reads.Wait();
 }
 
-TEST_F(Walking, ALoadReportsAFileThatBreaksOffOnceFromItsWalkAndKeepsTheRecordsBeforeTheBreak) {
+TEST_P(Walking, ALoadReportsAFileThatBreaksOffOnceFromItsWalkAndKeepsTheRecordsBeforeTheBreak) {
     SetUpFixedDiskRun(t);
     t.sys.PutFile(L"C:\\Apps\\a.exe");
     StoreListCounts(t.app.settings, {.program = 1});
@@ -123,6 +140,8 @@ TEST_F(Walking, ALoadReportsAFileThatBreaksOffOnceFromItsWalkAndKeepsTheRecordsB
     EXPECT_EQ(BugCount(t), 1);
     EXPECT_EQ(t.app.frmChoose.ComboListItemName(2).ListCount(), 1);
 }
+
+INSTANTIATE_TEST_SUITE_P(BytesAndText, Walking, ::testing::Bool());
 
 }  // namespace
 }  // namespace qs::test

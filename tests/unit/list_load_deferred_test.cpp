@@ -1,5 +1,6 @@
-// The list load tests the File, Folder and Program targets on threads of its
-// own while the bar comes up; the records join the lists before any input
+// The list load walks its files before the bar shows and makes their
+// records and tests the File, Folder and Program targets on a thread of its
+// own once the bar is drawn; the records join the lists before any input
 // is taken. These tests hold that input back to look in between, and check
 // that the end is exactly what a load that waited for each file gives.
 #include <gtest/gtest.h>
@@ -162,7 +163,7 @@ struct MeetingSystem : FakeSystem {
     }
 };
 
-TEST(ListFileReads, TheThreadThatWaitsTestsFilesAlongsideTheReadingThread) {
+TEST(ListFileReads, TheThreadThatWaitsTestsFilesAlongsideTheTestingThread) {
     MeetingSystem sys;
     Application app(sys);
     SeedPlanAndWork(sys, app);
@@ -335,79 +336,73 @@ TEST(DeferredListLoad, EnterOnACommandOfNoListGroupWaitsForEveryGroup) {
 // Nothing on screen shows a list before the first input, so no group is
 // filled before it: the tested ones wait for their answers, and Email and
 // Web URL join with them.
-// A system whose whole-file reads each wait, up to two seconds, for a
-// second read to be under way at the same time, and note the threads that
-// call, once the test opens the meeting.
-struct MeetingReadSystem : FakeSystem {
+// A system that notes which threads read list files and which test targets.
+struct ThreadNotingSystem : FakeSystem {
     std::mutex mutex;
-    std::condition_variable met;
-    bool open = false;
-    int inside = 0;
-    bool twoAtOnce = false;
-    std::set<std::thread::id> callers;
-    std::wstring ReadTextFile(const std::wstring& path) override {
+    std::condition_variable called;
+    std::vector<std::thread::id> readers;
+    std::vector<std::thread::id> testers;
+    std::string ReadFileBytes(const std::wstring& path) override {
+        Note(readers);
+        return FakeSystem::ReadFileBytes(path);
+    }
+    std::vector<bool> FilesExist(const std::vector<std::wstring_view>& paths) override {
+        Note(testers);
+        return FakeSystem::FilesExist(paths);
+    }
+    std::vector<bool> FoldersExist(const std::vector<std::wstring_view>& paths) override {
+        Note(testers);
+        return FakeSystem::FoldersExist(paths);
+    }
+    void Note(std::vector<std::thread::id>& threads) {
         {
-            std::unique_lock<std::mutex> lock(mutex);
-            if (open) {
-                callers.insert(std::this_thread::get_id());
-                if (++inside == 2) twoAtOnce = true;
-                met.notify_all();
-                met.wait_for(lock, std::chrono::seconds(2), [this] { return twoAtOnce; });
-                --inside;
-            }
+            const std::lock_guard<std::mutex> lock(mutex);
+            threads.push_back(std::this_thread::get_id());
         }
-        return FakeSystem::ReadTextFile(path);
+        called.notify_all();
     }
-    // From now on each read waits for a second one.
-    void Open() {
-        const std::lock_guard<std::mutex> lock(mutex);
-        open = true;
-    }
-    // Two reads met, one of them on the calling thread.
-    void ExpectTwoThreadsMet() {
-        const std::lock_guard<std::mutex> lock(mutex);
-        EXPECT_TRUE(twoAtOnce);
-        EXPECT_EQ(callers.size(), 2u);
-        EXPECT_EQ(callers.count(std::this_thread::get_id()), 1u);
+    // Waits up to `limit` for a call; whether one came.
+    bool CalledWithin(const std::vector<std::thread::id>& threads, std::chrono::milliseconds limit) {
+        std::unique_lock<std::mutex> lock(mutex);
+        return called.wait_for(lock, limit, [&threads] { return !threads.empty(); });
     }
 };
 
-TEST(ListFileReads, AThreadWaitingForAFileReadElsewhereReadsTheNextFileMeanwhile) {
-    MeetingReadSystem sys;
+TEST(ListFileReads, NoThreadReadsBeforeAFileIsAskedForAndTheAskingThreadReadsAndWalksIt) {
+    ThreadNotingSystem sys;
     Application app(sys);
     SeedPlanAndWork(sys, app);
     StoreListCounts(app.settings, {.file = 0, .folder = 0});
-    sys.Open();
     ListFileReads reads(app, {});
+    // A thread made before the bar's window slows the making of that
+    // window, so the files wait for the load to ask for them.
+    EXPECT_FALSE(sys.CalledWithin(sys.readers, std::chrono::milliseconds(200)));
+    EXPECT_TRUE(reads.Walked(1).exists);
     {
-        // The reading thread has taken the first file.
-        std::unique_lock<std::mutex> lock(sys.mutex);
-        ASSERT_TRUE(sys.met.wait_for(lock, std::chrono::seconds(10), [&sys] { return !sys.callers.empty(); }));
+        const std::lock_guard<std::mutex> lock(sys.mutex);
+        EXPECT_EQ(sys.readers, (std::vector<std::thread::id>(2, std::this_thread::get_id())));
+        EXPECT_TRUE(sys.testers.empty());
     }
-    const std::optional<ReadRecords>& plan = reads.Records(0);
-    ASSERT_TRUE(plan.has_value());
-    EXPECT_EQ(std::wstring(plan->names[0].Text()), L"plan");
-    EXPECT_EQ(std::wstring(reads.Records(1)->names[0].Text()), L"work");
     reads.Wait();
-    sys.ExpectTwoThreadsMet();
 }
 
-TEST(ListFileReads, AThreadWaitingForAFileReadsFilesNotYetTakenAlongsideTheReadingThread) {
-    MeetingReadSystem sys;
+TEST(ListFileReads, OnceAllowedTheTestsRunOnAThreadOfTheirOwn) {
+    ThreadNotingSystem sys;
     Application app(sys);
     SeedPlanAndWork(sys, app);
-    sys.PutFile(app.place.FileListProg, ListFileBytes({{"edit", "C:\\edit.exe"}}));
-    StoreListCounts(app.settings, {.file = 0, .folder = 0, .program = 0});
-    sys.Open();
+    StoreListCounts(app.settings, {.file = 0, .folder = 0});
     ListFileReads reads(app, {});
-    const std::optional<ReadRecords>& program = reads.Records(2);
-    ASSERT_TRUE(program.has_value());
-    ASSERT_EQ(program->names.size(), 1u);
-    EXPECT_EQ(std::wstring(program->names[0].Text()), L"edit");
+    reads.Walked(1);
+    EXPECT_FALSE(sys.CalledWithin(sys.testers, std::chrono::milliseconds(200)));
+    reads.AllowTests();
+    ASSERT_TRUE(sys.CalledWithin(sys.testers, std::chrono::seconds(10)));
+    {
+        const std::lock_guard<std::mutex> lock(sys.mutex);
+        EXPECT_NE(sys.testers.front(), std::this_thread::get_id());
+    }
+    reads.Wait();
     EXPECT_EQ(std::wstring(reads.Records(0)->names[0].Text()), L"plan");
     EXPECT_EQ(std::wstring(reads.Records(1)->names[0].Text()), L"work");
-    reads.Wait();
-    sys.ExpectTwoThreadsMet();
 }
 
 TEST(DeferredListLoad, EveryGroupJoinsTheListsAtTheFirstInputTheTestedOnesWithTheirAnswers) {

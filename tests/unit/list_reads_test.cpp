@@ -1,8 +1,7 @@
-// The list files read on their own thread: each file taken from there is
-// what a read of its own gives, a load whose settings changed since the
-// start-up's read-ahead reads again, and a load over a read-ahead fills the
-// lists and reports damaged files exactly as a load that reads each file
-// as it comes to it.
+// The list files of a load, walked and then made into records: each file
+// taken from there is what a read of its own gives, on either side, a file
+// gone before its reading comes back as no file, and damaged files are
+// reported in the load's order.
 #include <gtest/gtest.h>
 
 #include <optional>
@@ -47,12 +46,12 @@ void SeedEightFiles(TestApp& t) {
     std::filesystem::create_directories(t.sys.HostPath(L"E:\\Stick"));
 }
 
-struct ReadAhead : ::testing::Test {
+struct ListReads : ::testing::Test {
     TestApp t;
     void SetUp() override { SeedEightFiles(t); }
 };
 
-TEST_F(ReadAhead, EveryFileTakenIsWhatAReadOfItsOwnGives) {
+TEST_F(ListReads, EveryFileTakenIsWhatAReadOfItsOwnGives) {
     ListFileReads reads(t.app, {});
     ASSERT_EQ(reads.Files().size(), 8u);
     for (std::size_t i = 0; i < reads.Files().size(); ++i) {
@@ -67,7 +66,7 @@ TEST_F(ReadAhead, EveryFileTakenIsWhatAReadOfItsOwnGives) {
     }
 }
 
-TEST_F(ReadAhead, AFileThatBreaksOffComesBackWithTheRecordsBeforeTheBreakAndTheFailure) {
+TEST_F(ListReads, AFileThatBreaksOffComesBackWithTheRecordsBeforeTheBreakAndTheFailure) {
     ListFileReads reads(t.app, {});
     const std::optional<ReadRecords>& records = reads.Records(0);
     ASSERT_TRUE(records.has_value());
@@ -75,7 +74,7 @@ TEST_F(ReadAhead, AFileThatBreaksOffComesBackWithTheRecordsBeforeTheBreakAndTheF
     EXPECT_TRUE(records->failure);
 }
 
-TEST_F(ReadAhead, FlashSideTargetsComeBackOnTheProgramsDrive) {
+TEST_F(ListReads, FlashSideTargetsComeBackOnTheProgramsDrive) {
     ListFileReads reads(t.app, {});
     const ListFileOfLoad flashPrograms{2, 1, true};
     ASSERT_EQ(reads.Files().back(), flashPrograms);
@@ -84,48 +83,18 @@ TEST_F(ReadAhead, FlashSideTargetsComeBackOnTheProgramsDrive) {
     EXPECT_EQ(Texts(records->targets), (Names{L"E:\\Tools\\t.exe", L"E:\\Tools\\z.exe"}));
 }
 
-TEST_F(ReadAhead, AFileGoneBeforeTheReadingComesBackAsNoFile) {
+TEST_F(ListReads, AFileGoneBeforeTheReadingComesBackAsNoFile) {
     std::filesystem::remove(t.sys.HostPath(t.app.place.FileListWeb));
     ListFileReads reads(t.app, {});
     ASSERT_EQ(reads.Files()[4].group, 4);
     EXPECT_FALSE(reads.Records(4).has_value());
 }
 
-TEST_F(ReadAhead, ALoadWhoseCountsChangedSinceTheReadAheadReadsTheFilesAgain) {
-    LaunchListReadAhead(t.app);
-    t.app.settings.HDDProgramLast = 0;
-    LaunchListLoad(t.app);
-    EXPECT_EQ(Entries(ComputerNames(t, 2)), (Names{L"ant"}));
-    EXPECT_EQ(t.app.listReadAhead, nullptr);
-}
-
-TEST_F(ReadAhead, ALoadOverTheReadAheadFillsTheListsAsALoadThatReadsEachFile) {
-    TestApp reference;
-    SeedEightFiles(reference);
-    LaunchListLoad(reference.app);
-
-    LaunchListReadAhead(t.app);
-    LaunchListLoad(t.app);
-    EXPECT_EQ(t.app.listReadAhead, nullptr);
-    for (int group = 0; group < 5; ++group) {
-        EXPECT_EQ(Entries(MergedNames(t, group)), Entries(MergedNames(reference, group))) << group;
-        EXPECT_EQ(Entries(MergedPaths(t, group)), Entries(MergedPaths(reference, group))) << group;
-    }
-    for (int group = 0; group < 3; ++group) {
-        EXPECT_EQ(Entries(ComputerPaths(t, group)), Entries(ComputerPaths(reference, group))) << group;
-        EXPECT_EQ(Entries(FlashPaths(t, group)), Entries(FlashPaths(reference, group))) << group;
-    }
-    EXPECT_EQ(Entries(MergedNames(t, 2)), (Names{L"ant", L"bee", L"tool", L"zip"}));
-    EXPECT_EQ(BugCount(t), 1);
-    EXPECT_TRUE(BugShown(t, L"Quillstart:Bug:ActionLaunchListGet"));
-}
-
-TEST_F(ReadAhead, DamagedFilesAreReportedInTheLoadsOrderNotTheOrderTheirReadingsEnd) {
+TEST_F(ListReads, DamagedFilesAreReportedInTheLoadsOrderNotTheOrderTheirReadingsEnd) {
     // The flash-side Folder file's record has no target; the computer's
     // File file breaks off too. The computer's side is reported first.
     t.sys.PutFile(t.app.place.FileListUsbFold, std::string("\"stick\""));
     t.app.settings.USBFolderLast = 1;
-    LaunchListReadAhead(t.app);
     LaunchListLoad(t.app);
     const std::vector<MessageRequest>& shown = ShownMessages(t);
     ASSERT_EQ(shown.size(), 2u);
