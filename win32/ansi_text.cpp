@@ -16,7 +16,7 @@ std::string ToAnsi(const std::wstring& text) {
     return bytes;
 }
 
-std::wstring FromAnsi(const std::string& bytes) {
+std::wstring FromAnsi(std::string_view bytes) {
     if (bytes.empty()) return {};
     const int byteLength = static_cast<int>(bytes.size());
     const int size = ::MultiByteToWideChar(CP_ACP, 0, bytes.data(), byteLength, nullptr, 0);

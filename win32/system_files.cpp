@@ -6,12 +6,43 @@
 #include "common/failure.h"
 #include "common/text_case.h"
 #include "drive_type.h"
+#include "mapped_file.h"
 #include "system_error.h"
 #include "win32_system.h"
 
 namespace qs::win {
 
 namespace {
+
+bool OnFixedDisk(const std::wstring& path) {
+    if (path.size() < 3 || path[1] != L':' || (path[2] != L'\\' && path[2] != L'/')) return false;
+    const wchar_t root[] = {path[0], L':', L'\\', L'\0'};
+    return ::GetDriveTypeW(root) == DRIVE_FIXED;
+}
+
+FileHandle OpenToRead(const std::wstring& path) {
+    FileHandle file(::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file) ThrowLastError("CreateFileW");
+    return file;
+}
+
+std::size_t SizeToRead(HANDLE file) {
+    LARGE_INTEGER size{};
+    if (!::GetFileSizeEx(file, &size)) ThrowLastError("GetFileSizeEx");
+    if (size.QuadPart > 0x7FFFFFFF) throw SystemCallFailed("file too large to read");
+    return static_cast<std::size_t>(size.QuadPart);
+}
+
+std::string ReadWhole(HANDLE file, std::size_t size) {
+    std::string bytes(size, '\0');
+    DWORD read = 0;
+    if (!bytes.empty() && !::ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr)) {
+        ThrowLastError("ReadFile");
+    }
+    bytes.resize(read);
+    return bytes;
+}
 
 bool IsLetter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'); }
 
@@ -62,9 +93,12 @@ void Win32System::DeleteFile(const std::wstring& path) {
     if (!::DeleteFileW(path.c_str())) ThrowLastError("DeleteFileW");
 }
 
-std::wstring Win32System::ReadTextFile(const std::wstring& path) { return FromAnsi(ReadFileBytes(path)); }
+std::wstring Win32System::ReadTextFile(const std::wstring& path) {
+    FileHandle file = OpenToRead(path);
+    return FromAnsi(ReadWhole(file.Get(), SizeToRead(file.Get())));
+}
 
-std::wstring Win32System::TextOfBytes(const std::string& bytes) { return FromAnsi(bytes); }
+std::wstring Win32System::TextOfBytes(std::string_view bytes) { return FromAnsi(bytes); }
 
 bool Win32System::OneCharacterPerByte() {
     // Every code page Windows runs as the ANSI one keeps the ASCII
@@ -77,20 +111,15 @@ bool Win32System::OneCharacterPerByte() {
     return single;
 }
 
-std::string Win32System::ReadFileBytes(const std::wstring& path) {
-    FileHandle file(::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                  FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file) ThrowLastError("CreateFileW");
-    LARGE_INTEGER size{};
-    if (!::GetFileSizeEx(file.Get(), &size)) ThrowLastError("GetFileSizeEx");
-    if (size.QuadPart > 0x7FFFFFFF) throw SystemCallFailed("ReadTextFile: file too large");
-    std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
-    DWORD read = 0;
-    if (!bytes.empty() && !::ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr)) {
-        ThrowLastError("ReadFile");
-    }
-    bytes.resize(read);
-    return bytes;
+std::unique_ptr<FileBytes> Win32System::ReadFileBytes(const std::wstring& path) {
+    FileHandle file = OpenToRead(path);
+    const std::size_t size = SizeToRead(file.Get());
+    // A file on a fixed disk is mapped. One on a drive that can go away
+    // while it is read (a flash drive, a network share) is read into
+    // memory, since a view of it would fault once the drive is gone; an
+    // empty file cannot be mapped.
+    if (size > 0 && OnFixedDisk(path)) return std::make_unique<MappedFile>(file.Get(), size);
+    return std::make_unique<ReadBytes>(ReadWhole(file.Get(), size));
 }
 
 void Win32System::WriteTextFile(const std::wstring& path, const std::wstring& text) {

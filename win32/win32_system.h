@@ -31,8 +31,8 @@ public:
     std::int32_t GetAttributes(const std::wstring& path) override;
     void DeleteFile(const std::wstring& path) override;
     std::wstring ReadTextFile(const std::wstring& path) override;
-    std::string ReadFileBytes(const std::wstring& path) override;
-    std::wstring TextOfBytes(const std::string& bytes) override;
+    std::unique_ptr<FileBytes> ReadFileBytes(const std::wstring& path) override;
+    std::wstring TextOfBytes(std::string_view bytes) override;
     bool OneCharacterPerByte() override;
     void WriteTextFile(const std::wstring& path, const std::wstring& text) override;
 

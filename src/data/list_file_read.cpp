@@ -157,12 +157,11 @@ std::optional<WalkedListFile> WalkListFile(const Application& app, const ListFil
     const auto nothing = [](auto, auto) {};
     if (app.sys.OneCharacterPerByte()) {
         // The values lie where they lie in the text: no text is made yet.
-        walked.inBytes = true;
-        Values<char> values(walked.bytes);
+        Values<char> values(walked.bytes->View());
         walked.failure = Walk(values, file, nothing);
     } else {
-        walked.text = app.sys.TextOfBytes(walked.bytes);
-        walked.bytes = std::string();
+        walked.text = app.sys.TextOfBytes(walked.bytes->View());
+        walked.bytes.reset();
         Values<wchar_t> values(walked.text);
         walked.failure = Walk(values, file, nothing);
     }
@@ -170,8 +169,8 @@ std::optional<WalkedListFile> WalkListFile(const Application& app, const ListFil
 }
 
 ReadRecords MakeRecords(const Application& app, const ListFileOfLoad& file, WalkedListFile& walked) {
-    RecordReader reader(walked.inBytes ? app.sys.TextOfBytes(walked.bytes) : std::move(walked.text));
-    walked.bytes = std::string();
+    RecordReader reader(walked.bytes ? app.sys.TextOfBytes(walked.bytes->View()) : std::move(walked.text));
+    walked.bytes.reset();
     walked.text = std::wstring();
     return Records(app, reader, file);
 }

@@ -3,12 +3,14 @@
 // one file's records as read.
 #include <cstdint>
 #include <exception>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "data/file_channel.h"
+#include "platform/system.h"
 #include "ui/shared_text.h"
 
 namespace qs {
@@ -48,11 +50,11 @@ std::optional<ReadRecords> ReadListFile(const Application& app, const ListFileOf
 // A list file read and its values walked through without keeping any, so
 // that whether its records break off is known long before they are made:
 // the file's bytes, walked as they are where each byte is one character,
-// else its text; and the failure that making the records will end with.
+// else its text (and no bytes); and the failure that making the records
+// will end with.
 struct WalkedListFile {
-    std::string bytes;
+    std::unique_ptr<FileBytes> bytes;
     std::wstring text;
-    bool inBytes = false;
     std::exception_ptr failure;
 };
 

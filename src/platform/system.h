@@ -4,13 +4,34 @@
 // records every launch.
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/file_browsing.h"
 
 namespace qs {
+
+// A file's bytes as the system holds them for the program, read into memory
+// or mapped there: valid while the object lives.
+class FileBytes {
+public:
+    virtual ~FileBytes() = default;
+    virtual std::string_view View() const = 0;
+};
+
+// Bytes read into memory.
+class ReadBytes final : public FileBytes {
+public:
+    explicit ReadBytes(std::string bytes) : bytes_(std::move(bytes)) {}
+    std::string_view View() const override { return bytes_; }
+
+private:
+    std::string bytes_;
+};
 
 namespace ui {
 class Form;
@@ -139,14 +160,14 @@ public:
     virtual std::wstring ReadTextFile(const std::wstring& path) = 0;
     virtual void WriteTextFile(const std::wstring& path, const std::wstring& text) = 0;
     // The same read in two steps, for a reader that looks at a file's bytes
-    // long before it needs their text: the bytes, read whole (throws
+    // long before it needs their text: the bytes, whole (throws
     // SystemCallFailed), then their text, so that ReadTextFile(path) is
-    // TextOfBytes(ReadFileBytes(path)). OneCharacterPerByte is true when
-    // the code page turns each byte into one character, and each byte
+    // TextOfBytes(ReadFileBytes(path)->View()). OneCharacterPerByte is true
+    // when the code page turns each byte into one character, and each byte
     // below 128 into that same character: byte i of a file is then
     // character i of its text.
-    virtual std::string ReadFileBytes(const std::wstring& path) = 0;
-    virtual std::wstring TextOfBytes(const std::string& bytes) = 0;
+    virtual std::unique_ptr<FileBytes> ReadFileBytes(const std::wstring& path) = 0;
+    virtual std::wstring TextOfBytes(std::string_view bytes) = 0;
     virtual bool OneCharacterPerByte() = 0;
 
     // Existence in bulk, for the thousands of targets a list load tests at

@@ -5,6 +5,7 @@
 // with no disk at all.
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -61,14 +62,14 @@ public:
     std::int32_t GetAttributes(const std::wstring&) override { return 32; }
     void DeleteFile(const std::wstring& path) override { files.erase(path); }
     std::wstring ReadTextFile(const std::wstring& path) override {
-        if (latin1) return TextOfBytes(ReadFileBytes(path));
+        if (latin1) return TextOfBytes(ReadFileBytes(path)->View());
         const auto at = files.find(path);
         if (at == files.end()) throw SystemCallFailed("cannot open");
         return at->second;
     }
     // With `latin1` the files are Latin-1 bytes, a character above 255
     // read as '?'; without it each character is two bytes, low byte first.
-    std::string ReadFileBytes(const std::wstring& path) override {
+    std::unique_ptr<FileBytes> ReadFileBytes(const std::wstring& path) override {
         const auto at = files.find(path);
         if (at == files.end()) throw SystemCallFailed("cannot open");
         std::string bytes;
@@ -80,9 +81,9 @@ public:
                 bytes.push_back(static_cast<char>((c >> 8) & 0xFF));
             }
         }
-        return bytes;
+        return std::make_unique<ReadBytes>(std::move(bytes));
     }
-    std::wstring TextOfBytes(const std::string& bytes) override {
+    std::wstring TextOfBytes(std::string_view bytes) override {
         std::wstring text;
         const std::size_t step = latin1 ? 1 : 2;
         for (std::size_t i = 0; i + step <= bytes.size(); i += step) {

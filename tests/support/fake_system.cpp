@@ -21,7 +21,7 @@ std::string ToLatin1(const std::wstring& text) {
     return out;
 }
 
-std::wstring FromLatin1(const std::string& bytes) {
+std::wstring FromLatin1(std::string_view bytes) {
     std::wstring out;
     out.reserve(bytes.size());
     for (char c : bytes) out.push_back(static_cast<wchar_t>(static_cast<unsigned char>(c)));
@@ -225,18 +225,18 @@ void FakeSystem::DeleteFile(const std::wstring& path) {
     fs::remove(HostPath(path));
 }
 
-std::wstring FakeSystem::ReadTextFile(const std::wstring& path) { return TextOfBytes(ReadFileBytes(path)); }
+std::wstring FakeSystem::ReadTextFile(const std::wstring& path) { return TextOfBytes(ReadFileBytes(path)->View()); }
 
-std::string FakeSystem::ReadFileBytes(const std::wstring& path) {
+std::unique_ptr<FileBytes> FakeSystem::ReadFileBytes(const std::wstring& path) {
     const fs::path host = HostPath(path);
     if (!fs::is_regular_file(host)) throw SystemCallFailed("cannot open");
     std::ifstream in(host, std::ios::binary);
     std::ostringstream bytes;
     bytes << in.rdbuf();
-    return bytes.str();
+    return std::make_unique<ReadBytes>(bytes.str());
 }
 
-std::wstring FakeSystem::TextOfBytes(const std::string& bytes) { return FromLatin1(bytes); }
+std::wstring FakeSystem::TextOfBytes(std::string_view bytes) { return FromLatin1(bytes); }
 
 void FakeSystem::WriteTextFile(const std::wstring& path, const std::wstring& text) {
     for (const auto& prefix : readOnlyPrefixes)

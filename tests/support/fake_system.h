@@ -87,8 +87,8 @@ public:
     std::int32_t GetAttributes(const std::wstring& path) override;
     void DeleteFile(const std::wstring& path) override;
     std::wstring ReadTextFile(const std::wstring& path) override;
-    std::string ReadFileBytes(const std::wstring& path) override;
-    std::wstring TextOfBytes(const std::string& bytes) override;
+    std::unique_ptr<qs::FileBytes> ReadFileBytes(const std::wstring& path) override;
+    std::wstring TextOfBytes(std::string_view bytes) override;
     // The files hold Latin-1, one character per byte; a test may say
     // otherwise, so that the readers take the road of other code pages.
     bool OneCharacterPerByte() override { return oneCharacterPerByte; }

@@ -342,7 +342,7 @@ struct ThreadNotingSystem : FakeSystem {
     std::condition_variable called;
     std::vector<std::thread::id> readers;
     std::vector<std::thread::id> testers;
-    std::string ReadFileBytes(const std::wstring& path) override {
+    std::unique_ptr<qs::FileBytes> ReadFileBytes(const std::wstring& path) override {
         Note(readers);
         return FakeSystem::ReadFileBytes(path);
     }

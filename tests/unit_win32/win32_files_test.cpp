@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <memory>
 #include <string>
 
 #include "common/failure.h"
@@ -70,6 +71,26 @@ TEST_F(Win32Files, EmptyFileReadsAsEmptyText) {
     sys.WriteTextFile(file, L"");
     EXPECT_TRUE(sys.FileExists(file));
     EXPECT_EQ(sys.ReadTextFile(file), L"");
+}
+
+TEST_F(Win32Files, AFilesBytesAreItsRawBytesAndTheirTextIsTheTextRead) {
+    const std::wstring text = L"\"Caf\u00E9\",\"C:\\Tools\"\r\n\"Two\",\"2\"\r\n";
+    sys.WriteTextFile(file, text);
+    const std::unique_ptr<qs::FileBytes> bytes = sys.ReadFileBytes(file);
+    EXPECT_EQ(std::string(bytes->View()), RawBytes());
+    EXPECT_EQ(sys.TextOfBytes(bytes->View()), sys.ReadTextFile(file));
+    // Another program may read the file while its bytes are held.
+    EXPECT_EQ(RawBytes().size(), bytes->View().size());
+    if (::GetACP() == 1252) EXPECT_TRUE(sys.OneCharacterPerByte());
+}
+
+TEST_F(Win32Files, AnEmptyFilesBytesAreNone) {
+    sys.WriteTextFile(file, L"");
+    EXPECT_TRUE(sys.ReadFileBytes(file)->View().empty());
+}
+
+TEST_F(Win32Files, ReadingTheBytesOfAMissingFileThrows) {
+    EXPECT_THROW(sys.ReadFileBytes(folder + L"\\missing.txt"), qs::SystemCallFailed);
 }
 
 TEST_F(Win32Files, ReadingAMissingFileThrows) {
