@@ -156,6 +156,7 @@ for state in $list_states; do
     measure_marks 'C:\benchmarks\empty_popup.exe' 'Empty Popup' "$pm_file"
     use_quillstart marks
     measure_marks 'C:\Quillstart\Quillstart.exe' Quillstart "$qm_file" ready
+    cp "$work/marks-last.txt" "$work/marks-$state.txt"
     printf '  run %d: empty window %s | empty popup %s | Quillstart %s\n' "$i" "$(tail -1 "$e_file")" \
       "$(tail -1 "$p_file")" "$(tail -1 "$q_file")"
     printf '         with marks: empty popup %s | Quillstart %s\n' "$(tail -1 "$pm_file")" "$(tail -1 "$qm_file")"
@@ -165,7 +166,6 @@ for state in $list_states; do
       printf '         the other build with marks: %s\n' "$(tail -1 "$work/other-$state.txt")"
     fi
   done
-  cp "$work/marks-last.txt" "$work/marks-$state.txt"
   results+=("$state $(column_median "$e_file" 1) $(column_median "$e_file" 3) $(column_median "$p_file" 1) $(column_median "$q_file" 1) \
 $(column_median "$q_file" 2) $(column_median "$q_file" 3)")
   marks_results+=("$state $(column_median "$pm_file" 4) $(column_median "$qm_file" 4) $(column_median "$qm_file" 5)")
@@ -199,6 +199,6 @@ for result in "${marks_results[@]}"; do
 done
 for state in $list_states; do
   echo
-  echo "marks of the last start with marks, $state lists (ms after the entry):"
+  echo "marks of the last start of Quillstart with marks, $state lists (ms after the entry):"
   tr -d '\r' <"$work/marks-$state.txt" | sed 's/^/  /'
 done
