@@ -8,6 +8,7 @@
 
 #include "test_app.h"
 #include "ui/list_box.h"
+#include "ui/shared_text.h"
 
 namespace qs::test {
 
@@ -53,5 +54,12 @@ ui::ListBox& FlashPaths(TestApp& t, int group);
 
 // Number of bug dialogs shown so far.
 int BugCount(TestApp& t);
+
+// The texts of a list file's records, for comparing.
+inline std::vector<std::wstring> Texts(const std::vector<ui::SharedText>& texts) {
+    std::vector<std::wstring> out;
+    for (const ui::SharedText& text : texts) out.emplace_back(text.Text());
+    return out;
+}
 
 }  // namespace qs::test

@@ -22,12 +22,6 @@ namespace {
 
 using Names = std::vector<std::wstring>;
 
-Names Texts(const std::vector<ui::SharedText>& texts) {
-    Names out;
-    for (const ui::SharedText& text : texts) out.emplace_back(text.Text());
-    return out;
-}
-
 // Run with the files walked as bytes, and as text, as on a machine whose
 // code page has characters of more than one byte.
 struct Walking : ::testing::TestWithParam<bool> {

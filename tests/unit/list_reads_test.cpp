@@ -18,12 +18,6 @@ namespace {
 
 using Names = std::vector<std::wstring>;
 
-Names Texts(const std::vector<ui::SharedText>& texts) {
-    Names out;
-    for (const ui::SharedText& text : texts) out.emplace_back(text.Text());
-    return out;
-}
-
 // A flash run with all eight files stored: the File file breaks off after
 // its first record, the flash-side Program file holds drive-free targets.
 void SeedEightFiles(TestApp& t) {
