@@ -48,8 +48,9 @@ void ControlWindow::CreateIfNowOnForm() {
 
 void ControlWindow::CreateOrStandOnFace() {
     // On a form made as it shows, the first paint draws such a control on
-    // the face, and the window comes right after that paint: a dozen
-    // picture buttons' windows are not made before the bar shows.
+    // the face, and the window comes at the form's first-shown moment,
+    // after that paint and the first keys: a dozen picture buttons'
+    // windows are not made before the bar shows and takes its first key.
     if (StandsOnFaceAtFirst() && form_.PicturesOnFace()) {
         onFace_ = true;
         return;
@@ -57,7 +58,7 @@ void ControlWindow::CreateOrStandOnFace() {
     Create();
 }
 
-void ControlWindow::FacePainted() {
+void ControlWindow::LeaveFace() {
     if (!onFace_ || detached_) return;
     onFace_ = false;
     Create();
@@ -192,7 +193,7 @@ void ControlWindow::Changed(ui::Property what) {
     if (what == ui::Property::Focus && (waitsToShow_ || onFace_) && control_.Shown()) {
         // A box given the focus takes the keys even while the form's width
         // leaves it out of sight, as it always has, or before the form's
-        // first paint.
+        // first-shown moment.
         waitsToShow_ = false;
         onFace_ = false;
         Create();

@@ -39,11 +39,11 @@ public:
     // True while the window waits for the control to show on the form.
     bool WaitsToShow() const { return waitsToShow_; }
     // True while the control is drawn on the form's face, waiting for the
-    // form's first paint to get its window.
+    // form's first-shown moment to get its window.
     bool OnFace() const { return onFace_; }
-    // The form has painted for the first time: a control drawn on its face
-    // gets its window now.
-    void FacePainted();
+    // The form's first-shown moment: a control drawn on its face gets its
+    // window now.
+    void LeaveFace();
     // A WM_COMMAND notification from the window.
     virtual void OnCommand(WORD) {}
     // A WM_TIMER with the control's id.
@@ -93,7 +93,7 @@ protected:
     // its window text is the name screen readers give it.
     virtual bool TextIsName() const { return false; }
     // Whether the control, drawn on the form's face, may do without its
-    // window until the form's first paint.
+    // window until the form's first-shown moment.
     virtual bool StandsOnFaceAtFirst() const { return false; }
     FormWindow& Form() const { return form_; }
 
@@ -104,8 +104,8 @@ private:
     bool OnForm() const;
     // Makes the window of a control that waited, once it is on the form.
     void CreateIfNowOnForm();
-    // Makes the window, or before the form's first paint leaves a control
-    // that can stand on the face there.
+    // Makes the window, or, before the form's first-shown moment, leaves a
+    // control that can stand on the face there.
     void CreateOrStandOnFace();
     // Writes the control's name into a window whose text is its name: the
     // tooltip, or where there is none the accessible name.

@@ -81,7 +81,7 @@ FormWindow::FormWindow(HINSTANCE instance, ui::Form& form) : form_(form) {
         ApplyGeometry();
     }
     MakeFont();
-    madeShowing_ = form_.Visible();
+    picturesOnFace_ = form_.Visible();
     CreateControls();
     form_.AttachPeer(this);
     // A new window is not topmost.
@@ -233,6 +233,7 @@ void FormWindow::FirstShown() {
                    reinterpret_cast<LPARAM>(ProgramIcon(instance, SM_CXICON, SM_CYICON)));
     ::SendMessageW(Handle(), WM_SETICON, ICON_SMALL,
                    reinterpret_cast<LPARAM>(ProgramIcon(instance, SM_CXSMICON, SM_CYSMICON)));
+    MakeFaceWindows();
     std::map<HWND, std::wstring> waiting;
     waiting.swap(waitingTips_);
     for (const auto& [child, text] : waiting) {
@@ -408,16 +409,17 @@ void FormWindow::Paint() {
     if (painted_) return;
     painted_ = true;
     marks::Mark("painted", form_.Name());
-    MakeFaceWindows();
 }
 
 void FormWindow::MakeFaceWindows() {
+    if (!picturesOnFace_) return;
+    picturesOnFace_ = false;
     // Made in tab order, then put in it once for them all.
     created_ = false;
     bool made = false;
     for (ControlWindow* control : tabOrder_) {
         if (!control->OnFace()) continue;
-        control->FacePainted();
+        control->LeaveFace();
         made = true;
     }
     created_ = true;

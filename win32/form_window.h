@@ -62,9 +62,9 @@ public:
     void SetToolTip(HWND child, const std::wstring& text);
     // True once the window has shown and been drawn.
     bool HasShown() const { return shown_; }
-    // True while a window made as its form showed has not painted yet: its
-    // pictures are drawn on the face until that first paint.
-    bool PicturesOnFace() const { return madeShowing_ && !painted_; }
+    // True while a window made as its form showed has not reached its
+    // first-shown moment: its pictures are drawn on the face until then.
+    bool PicturesOnFace() const { return picturesOnFace_; }
 
     // Cuts every tie to the form and its controls and destroys the window.
     void Detach();
@@ -98,7 +98,7 @@ private:
     // Composes the face if its design changed, and repaints the children
     // that show it.
     void UpdateFace();
-    // Gives the controls drawn on the face at the first paint their windows.
+    // Gives the controls drawn on the face their windows.
     void MakeFaceWindows();
     // The part of the client area a control's design covers.
     RECT ControlRect(const ui::Control& control) const;
@@ -148,8 +148,7 @@ private:
     bool firstShowingPosted_ = false;
     bool shown_ = false;
     bool painted_ = false;
-    // True when the window was made for a form showing.
-    bool madeShowing_ = false;
+    bool picturesOnFace_ = false;
     // True while the form's own geometry is written to the window.
     bool placing_ = false;
     bool detached_ = false;

@@ -4,8 +4,8 @@
 // presses as MouseDown, MouseUp and, when released over it, Click; keys typed
 // while it has the focus as KeyPress. Its window text is its name for screen
 // readers and automation. A picture box showing a strip has no window: the
-// strip is part of the form's face; until the form's first paint, neither
-// has any other picture, which that paint draws on the face as well.
+// strip is part of the form's face; until its form's first-shown moment,
+// neither has any other picture, which the face shows as well.
 #include <windows.h>
 
 #include "control_window.h"

@@ -1,15 +1,17 @@
 // A form whose window is made as it shows draws its picture buttons on its
-// face at its first paint and gives them their windows right after it: the
-// window shows without waiting for a dozen child windows. Each picture then
-// has its named window in its place, showing what the face showed there; a
-// picture given the focus before the first paint gets its window at once,
-// and a form loaded hidden makes its pictures' windows at once as before.
+// face at its first paint and gives them their windows at its first-shown
+// moment, after that paint and the first keys: the window shows without
+// waiting for a dozen child windows. Each picture then has its named window
+// in the place where the face showed it, showing what the face showed; a
+// picture given the focus before gets its window at once, and a form loaded
+// hidden makes its pictures' windows at once as before.
 #include <gtest/gtest.h>
 
 #include <windows.h>
 
 #include <vector>
 
+#include "dpi.h"
 #include "ui/form.h"
 #include "ui/picture_box.h"
 #include "win32_backend.h"
@@ -56,6 +58,14 @@ std::vector<COLORREF> Samples(HWND window, const RECT& area) {
     return colors;
 }
 
+// Where the form draws a control, in its window's pixels.
+RECT PlaceOf(const ui::Control& control, HWND form) {
+    const UINT dpi = win::WindowDpi(form);
+    const int left = win::TwipsToPixels(control.Left(), dpi);
+    const int top = win::TwipsToPixels(control.Top(), dpi);
+    return {left, top, left + win::TwipsToPixels(control.Width(), dpi), top + win::TwipsToPixels(control.Height(), dpi)};
+}
+
 // The picture's window's client area as a rectangle of the form's.
 RECT PlaceOnForm(HWND picture, HWND form) {
     RECT r{};
@@ -79,35 +89,37 @@ protected:
     PicturesForm form;
 };
 
-TEST_F(FacePicturesTest, PicturesGetTheirNamedWindowsRightAfterTheFirstPaintWhichShowsThemOnTheFace) {
+TEST_F(FacePicturesTest, ThePicturesShowOnTheFaceAtTheFirstPaintAndGetTheirNamedWindowsAfterIt) {
     form.Show();
     const HWND window = backend.WindowOf(form);
     ASSERT_NE(window, nullptr);
     EXPECT_EQ(::FindWindowExW(window, nullptr, win::kPictureClass, nullptr), nullptr);
-    // The form's first paint alone: its children, made at its end, have not
-    // painted yet.
     ::SendMessageW(window, WM_PAINT, 0, 0);
+    EXPECT_EQ(::FindWindowExW(window, nullptr, win::kPictureClass, nullptr), nullptr);
+    const RECT place = PlaceOf(form.Menu, window);
+    const std::vector<COLORREF> onFace = Samples(window, place);
+    ASSERT_TRUE(PumpUntil([&] { return PictureNamed(window, L"Help") != nullptr; }));
     const HWND menu = PictureNamed(window, L"Menu");
-    const HWND help = PictureNamed(window, L"Help");
     ASSERT_NE(menu, nullptr);
-    ASSERT_NE(help, nullptr);
     EXPECT_TRUE(::IsWindowVisible(menu));
     EXPECT_NE(::GetWindowLongPtrW(menu, GWL_STYLE) & WS_TABSTOP, 0);
-    // What the form's paint drew where the picture lies, before the
-    // picture's window has painted, is what that window then shows.
-    const RECT place = PlaceOnForm(menu, window);
-    const std::vector<COLORREF> onFace = Samples(window, place);
+    const RECT own = PlaceOnForm(menu, window);
+    EXPECT_EQ(own.left, place.left);
+    EXPECT_EQ(own.top, place.top);
+    EXPECT_EQ(own.right, place.right);
+    EXPECT_EQ(own.bottom, place.bottom);
+    // What the face showed there is what the picture's window shows.
     ::UpdateWindow(menu);
-    RECT own{};
-    ::GetClientRect(menu, &own);
-    const std::vector<COLORREF> onWindow = Samples(menu, own);
+    RECT client{};
+    ::GetClientRect(menu, &client);
+    const std::vector<COLORREF> onWindow = Samples(menu, client);
     EXPECT_EQ(onFace, onWindow);
     std::size_t drawn = 0;
     for (const COLORREF color : onFace) drawn += color != RGB(0x40, 0x30, 0x20) ? 1 : 0;
     EXPECT_GT(drawn, onFace.size() / 10);
 }
 
-TEST_F(FacePicturesTest, APictureGivenTheFocusBeforeTheFirstPaintGetsItsWindowAndTheFocus) {
+TEST_F(FacePicturesTest, APictureGivenTheFocusBeforeItsWindowCameGetsItsWindowAndTheFocus) {
     form.Show();
     const HWND window = backend.WindowOf(form);
     ASSERT_NE(window, nullptr);
@@ -116,8 +128,7 @@ TEST_F(FacePicturesTest, APictureGivenTheFocusBeforeTheFirstPaintGetsItsWindowAn
     ASSERT_NE(menu, nullptr);
     EXPECT_EQ(::GetFocus(), menu);
     EXPECT_EQ(PictureNamed(window, L"Help"), nullptr);
-    ::UpdateWindow(window);
-    EXPECT_NE(PictureNamed(window, L"Help"), nullptr);
+    EXPECT_TRUE(PumpUntil([&] { return PictureNamed(window, L"Help") != nullptr; }));
 }
 
 TEST_F(FacePicturesTest, AFormLoadedHiddenMakesItsPicturesWindowsAtOnce) {
@@ -129,11 +140,11 @@ TEST_F(FacePicturesTest, AFormLoadedHiddenMakesItsPicturesWindowsAtOnce) {
     EXPECT_NE(PictureNamed(window, L"Help"), nullptr);
 }
 
-TEST_F(FacePicturesTest, TheFirstPaintPutsTheNewWindowsInTheTabOrder) {
+TEST_F(FacePicturesTest, TheNewWindowsTakeTheirPlacesInTheTabOrder) {
     form.Show();
     const HWND window = backend.WindowOf(form);
     ASSERT_NE(window, nullptr);
-    ::UpdateWindow(window);
+    ASSERT_TRUE(PumpUntil([&] { return PictureNamed(window, L"Help") != nullptr; }));
     const HWND first = ::GetWindow(window, GW_CHILD);
     ASSERT_NE(first, nullptr);
     EXPECT_EQ(first, PictureNamed(window, L"Menu"));

@@ -130,6 +130,7 @@ HWND SoakProgram::WindowOf(const ui::Control& control) {
 }
 
 bool SoakProgram::Click(const ui::Control& control) {
+    if (control.Shown()) PumpUntil([&control] { return WindowOf(control) != nullptr; });
     const HWND window = WindowOf(control);
     if (window == nullptr || !::IsWindowVisible(window)) return false;
     RECT client{};

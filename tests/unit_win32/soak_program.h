@@ -37,8 +37,9 @@ public:
     // The window of a form or a control; null when it has none now.
     HWND WindowOf(const ui::Form& form) const;
     static HWND WindowOf(const ui::Control& control);
-    // A left press and release in the middle of a control's window; false
-    // when the control has no window to click.
+    // A left press and release in the middle of a control's window, once
+    // it has one (a picture on a window just shown gets its window a moment
+    // after the first paint); false when none comes or it is hidden.
     bool Click(const ui::Control& control);
 
     // Empties the Command box by Esc, types the text key by key into its
