@@ -402,13 +402,12 @@ void FormWindow::Paint() {
     UpdateFace();
     // The paint validates the whole window: a change from here on asks anew.
     repaintAsked_ = false;
-    {
-        PaintScope paint(Handle());
-        face_.PaintTo(paint.Get());
+    PaintScope paint(Handle());
+    face_.PaintTo(paint.Get());
+    if (!painted_) {
+        painted_ = true;
+        marks::Mark("painted", form_.Name());
     }
-    if (painted_) return;
-    painted_ = true;
-    marks::Mark("painted", form_.Name());
 }
 
 void FormWindow::MakeFaceWindows() {

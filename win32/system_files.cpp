@@ -14,12 +14,6 @@ namespace qs::win {
 
 namespace {
 
-bool OnFixedDisk(const std::wstring& path) {
-    if (path.size() < 3 || path[1] != L':' || (path[2] != L'\\' && path[2] != L'/')) return false;
-    const wchar_t root[] = {path[0], L':', L'\\', L'\0'};
-    return ::GetDriveTypeW(root) == DRIVE_FIXED;
-}
-
 FileHandle OpenToRead(const std::wstring& path) {
     FileHandle file(::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                                   FILE_ATTRIBUTE_NORMAL, nullptr));
@@ -45,6 +39,12 @@ std::string ReadWhole(HANDLE file, std::size_t size) {
 }
 
 bool IsLetter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'); }
+
+bool OnFixedDisk(const std::wstring& path) {
+    if (path.size() < 2 || !IsLetter(path[0]) || path[1] != L':') return false;
+    const wchar_t root[] = {path[0], L':', L'\\', L'\0'};
+    return ::GetDriveTypeW(root) == DRIVE_FIXED;
+}
 
 // The attribute bits the file-system object reports.
 constexpr DWORD kReportedAttributes = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
