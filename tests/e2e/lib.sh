@@ -144,11 +144,17 @@ e2e_start_known() {
   e2e_start_quillstart
 }
 
-# The screen place of a bar control's middle into BAR_X and BAR_Y.
-bar_centre() {
+# The screen place of a bar control's middle into BAR_X and BAR_Y, once the
+# control has its window: a picture button gets it a moment after the bar's
+# first paint. Usage: bar_centre NAME
+bar_centre_now() {
   wine "$E2E_TOOLS/bartool.exe" centre "$1" >"$E2E_WORK/centre.out" 2>/dev/null || return 1
   IFS=, read -r BAR_X BAR_Y <<<"$(tr -d '\r' <"$E2E_WORK/centre.out" | sed -n 's/^centre=//p')"
   [ -n "$BAR_X" ]
+}
+
+bar_centre() {
+  qs_poll 5 bar_centre_now "$1"
 }
 
 bar_click() {
