@@ -40,12 +40,6 @@ std::string ReadWhole(HANDLE file, std::size_t size) {
 
 bool IsLetter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'); }
 
-bool OnFixedDisk(const std::wstring& path) {
-    if (path.size() < 2 || !IsLetter(path[0]) || path[1] != L':') return false;
-    const wchar_t root[] = {path[0], L':', L'\\', L'\0'};
-    return ::GetDriveTypeW(root) == DRIVE_FIXED;
-}
-
 // The attribute bits the file-system object reports.
 constexpr DWORD kReportedAttributes = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
                                       FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_ARCHIVE |
@@ -111,14 +105,13 @@ bool Win32System::OneCharacterPerByte() {
     return single;
 }
 
-std::unique_ptr<FileBytes> Win32System::ReadFileBytes(const std::wstring& path) {
+std::unique_ptr<FileBytes> Win32System::ReadFileBytes(const std::wstring& path, bool onFixedDisk) {
     FileHandle file = OpenToRead(path);
     const std::size_t size = SizeToRead(file.Get());
     // A file on a fixed disk is mapped. One on a drive that can go away
-    // while it is read (a flash drive, a network share) is read into
-    // memory, since a view of it would fault once the drive is gone; an
-    // empty file cannot be mapped.
-    if (size > 0 && OnFixedDisk(path)) return std::make_unique<MappedFile>(file.Get(), size);
+    // while it is read is read into memory, since a view of it would fault
+    // once the drive is gone; an empty file cannot be mapped.
+    if (size > 0 && onFixedDisk) return std::make_unique<MappedFile>(file.Get(), size);
     return std::make_unique<ReadBytes>(ReadWhole(file.Get(), size));
 }
 

@@ -31,7 +31,7 @@ public:
     std::int32_t GetAttributes(const std::wstring& path) override;
     void DeleteFile(const std::wstring& path) override;
     std::wstring ReadTextFile(const std::wstring& path) override;
-    std::unique_ptr<FileBytes> ReadFileBytes(const std::wstring& path) override;
+    std::unique_ptr<FileBytes> ReadFileBytes(const std::wstring& path, bool onFixedDisk) override;
     std::wstring TextOfBytes(std::string_view bytes) override;
     bool OneCharacterPerByte() override;
     void WriteTextFile(const std::wstring& path, const std::wstring& text) override;

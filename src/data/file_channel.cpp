@@ -1,7 +1,12 @@
 #include "data/file_channel.h"
 
 #include <algorithm>
+#include <bit>
 #include <iterator>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 #include "common/application.h"
 #include "common/failure.h"
@@ -17,6 +22,35 @@ void WriteDataFile(Application& app, const std::wstring& path, const std::wstrin
 namespace {
 
 bool IsLineEnd(wchar_t c) { return c == L'\r' || c == L'\n'; }
+
+// The next double quote at or after `from`, or npos.
+template <typename Char>
+std::size_t FindQuote(std::basic_string_view<Char> text, std::size_t from) {
+    return text.find(Char('"'), from);
+}
+
+#if defined(__SSE2__)
+// A list file is walked byte by byte before the bar shows, and is mostly
+// quoted values, whose closing quotes are found here sixteen bytes at a
+// time: the C library's search under Wine goes one byte at a time, and took
+// a third more time over a long list.
+template <>
+std::size_t FindQuote<char>(std::string_view text, std::size_t from) {
+    const char* const bytes = text.data();
+    const std::size_t size = text.size();
+    const __m128i quotes = _mm_set1_epi8('"');
+    std::size_t i = from;
+    for (; i + 16 <= size; i += 16) {
+        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + i));
+        const auto found = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(block, quotes)));
+        if (found != 0) return i + static_cast<std::size_t>(std::countr_zero(found));
+    }
+    for (; i < size; ++i) {
+        if (bytes[i] == '"') return i;
+    }
+    return std::string_view::npos;
+}
+#endif
 
 }  // namespace
 
@@ -35,7 +69,7 @@ std::basic_string_view<Char> NextValue(std::basic_string_view<Char> text, std::s
     if (at >= text.size()) throw InputPastEnd();
     std::basic_string_view<Char> value;
     if (text[at] == Char('"')) {
-        const std::size_t close = text.find(Char('"'), at + 1);
+        const std::size_t close = FindQuote(text, at + 1);
         const std::size_t end = close == std::basic_string_view<Char>::npos ? text.size() : close;
         value = text.substr(at + 1, end - at - 1);
         at = close == std::basic_string_view<Char>::npos ? text.size() : close + 1;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <map>
 #include <string>
 
 #include "common/application.h"
@@ -149,11 +150,35 @@ std::optional<ReadRecords> ReadListFile(const Application& app, const ListFileOf
     return Records(app, *reader, file);
 }
 
-std::optional<WalkedListFile> WalkListFile(const Application& app, const ListFileOfLoad& file) {
+std::vector<bool> ListFilesOnFixedDisk(const Application& app, const std::vector<ListFileOfLoad>& files) {
+    // Under Wine the type of a drive takes about half a millisecond to ask,
+    // and the files of a load lie on one drive or two.
+    std::map<std::wstring, bool> drives;
+    const auto fixed = [&app](const std::wstring& name) {
+        if (name.empty()) return false;
+        if (name == app.place.ProgramDriveName) return app.place.ProgramDrive.type == DriveType::Fixed;
+        try {
+            return app.sys.GetDrive(name).type == DriveType::Fixed;
+        } catch (const std::exception&) {
+            return false;
+        }
+    };
+    std::vector<bool> onFixedDisk;
+    onFixedDisk.reserve(files.size());
+    for (const ListFileOfLoad& file : files) {
+        const std::wstring name = app.sys.GetDriveName(ListFilePath(app, file));
+        auto at = drives.find(name);
+        if (at == drives.end()) at = drives.emplace(name, fixed(name)).first;
+        onFixedDisk.push_back(at->second);
+    }
+    return onFixedDisk;
+}
+
+std::optional<WalkedListFile> WalkListFile(const Application& app, const ListFileOfLoad& file, bool onFixedDisk) {
     const std::wstring& path = ListFilePath(app, file);
     if (!app.sys.FileExists(path)) return std::nullopt;
     WalkedListFile walked;
-    walked.bytes = app.sys.ReadFileBytes(path);
+    walked.bytes = app.sys.ReadFileBytes(path, onFixedDisk);
     const auto nothing = [](auto, auto) {};
     if (app.sys.OneCharacterPerByte()) {
         // The values lie where they lie in the text: no text is made yet.

@@ -58,9 +58,16 @@ struct WalkedListFile {
     std::exception_ptr failure;
 };
 
+// For each file, whether it lies on a fixed disk, where the system may hand
+// out its bytes without a copy: the program's drive is known since the
+// start, any other drive is asked of the system once, and a drive it cannot
+// tell counts as one that may go away.
+std::vector<bool> ListFilesOnFixedDisk(const Application& app, const std::vector<ListFileOfLoad>& files);
+
 // One side's file read and walked, or nothing when there is no such file; a
-// file that cannot be opened throws.
-std::optional<WalkedListFile> WalkListFile(const Application& app, const ListFileOfLoad& file);
+// file that cannot be opened throws. `onFixedDisk` as ListFilesOnFixedDisk
+// answers for it.
+std::optional<WalkedListFile> WalkListFile(const Application& app, const ListFileOfLoad& file, bool onFixedDisk);
 
 // The records of a walked file, as ReadListFile gives them: the same records
 // and the same failure the walk found.

@@ -17,6 +17,7 @@ bool Tested(const ListFileOfLoad& file) { return file.group < 3; }
 ListFileReads::ListFileReads(const Application& app, std::function<void()> finished)
     : app_(app),
       files_(ListFilesOfLoad(app)),
+      onFixedDisk_(ListFilesOnFixedDisk(app, files_)),
       slots_(files_.size()),
       finished_(std::move(finished)),
       read_(files_.size(), false),
@@ -127,7 +128,7 @@ void ListFileReads::WaitFor(std::size_t i) {
 void ListFileReads::Read(std::size_t i) {
     Slot& slot = slots_[i];
     try {
-        slot.walked = WalkListFile(app_, files_[i]);
+        slot.walked = WalkListFile(app_, files_[i], onFixedDisk_[i]);
         if (slot.walked) slot.walk = {true, slot.walked->failure};
     } catch (...) {
         slot.readFailure = std::current_exception();

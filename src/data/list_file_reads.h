@@ -96,6 +96,7 @@ private:
 
     const Application& app_;
     std::vector<ListFileOfLoad> files_;
+    std::vector<bool> onFixedDisk_;
     std::vector<Slot> slots_;
     std::function<void()> finished_;
     std::mutex mutex_;

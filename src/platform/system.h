@@ -165,8 +165,11 @@ public:
     // TextOfBytes(ReadFileBytes(path)->View()). OneCharacterPerByte is true
     // when the code page turns each byte into one character, and each byte
     // below 128 into that same character: byte i of a file is then
-    // character i of its text.
-    virtual std::unique_ptr<FileBytes> ReadFileBytes(const std::wstring& path) = 0;
+    // character i of its text. `onFixedDisk` is the caller's word that the
+    // file lies on a fixed disk: the system may then hand out the bytes
+    // where it keeps them rather than a copy. A file on a drive that can go
+    // away while it is read (a flash drive, a network share) is copied.
+    virtual std::unique_ptr<FileBytes> ReadFileBytes(const std::wstring& path, bool onFixedDisk) = 0;
     virtual std::wstring TextOfBytes(std::string_view bytes) = 0;
     virtual bool OneCharacterPerByte() = 0;
 

@@ -127,7 +127,7 @@ void RequireWalkAgrees(const qs::Application& app, const qs::ListFileOfLoad& fil
     } catch (const std::exception&) {
         readThrew = true;
     }
-    std::optional<qs::WalkedListFile> walked = qs::WalkListFile(app, file);
+    std::optional<qs::WalkedListFile> walked = qs::WalkListFile(app, file, false);
     Require(walked.has_value() == (readThrew || read.has_value()));
     if (!walked) return;
     qs::ReadRecords made;

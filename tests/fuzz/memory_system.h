@@ -62,14 +62,14 @@ public:
     std::int32_t GetAttributes(const std::wstring&) override { return 32; }
     void DeleteFile(const std::wstring& path) override { files.erase(path); }
     std::wstring ReadTextFile(const std::wstring& path) override {
-        if (latin1) return TextOfBytes(ReadFileBytes(path)->View());
+        if (latin1) return TextOfBytes(ReadFileBytes(path, false)->View());
         const auto at = files.find(path);
         if (at == files.end()) throw SystemCallFailed("cannot open");
         return at->second;
     }
     // With `latin1` the files are Latin-1 bytes, a character above 255
     // read as '?'; without it each character is two bytes, low byte first.
-    std::unique_ptr<FileBytes> ReadFileBytes(const std::wstring& path) override {
+    std::unique_ptr<FileBytes> ReadFileBytes(const std::wstring& path, bool) override {
         const auto at = files.find(path);
         if (at == files.end()) throw SystemCallFailed("cannot open");
         std::string bytes;

@@ -148,6 +148,7 @@ std::wstring FakeSystem::GetDriveName(const std::wstring& path) {
 }
 
 DriveInfo FakeSystem::GetDrive(const std::wstring& driveName) {
+    ++drivesAsked;
     if (driveName.size() < 2 || driveName[1] != L':') throw SystemCallFailed("bad drive name");
     const wchar_t letter = UpperChar(driveName[0]);
     const auto at = driveTypes.find(letter);
@@ -225,9 +226,9 @@ void FakeSystem::DeleteFile(const std::wstring& path) {
     fs::remove(HostPath(path));
 }
 
-std::wstring FakeSystem::ReadTextFile(const std::wstring& path) { return TextOfBytes(ReadFileBytes(path)->View()); }
+std::wstring FakeSystem::ReadTextFile(const std::wstring& path) { return TextOfBytes(ReadFileBytes(path, false)->View()); }
 
-std::unique_ptr<FileBytes> FakeSystem::ReadFileBytes(const std::wstring& path) {
+std::unique_ptr<FileBytes> FakeSystem::ReadFileBytes(const std::wstring& path, bool) {
     const fs::path host = HostPath(path);
     if (!fs::is_regular_file(host)) throw SystemCallFailed("cannot open");
     std::ifstream in(host, std::ios::binary);

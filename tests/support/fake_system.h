@@ -74,6 +74,8 @@ public:
     void RegDelete(const std::wstring& key) override;
     std::wstring GetDriveName(const std::wstring& path) override;
     DriveInfo GetDrive(const std::wstring& driveName) override;
+    // How many times a drive's type was asked.
+    std::atomic<int> drivesAsked = 0;
     bool FileExists(const std::wstring& path) override;
     bool FolderExists(const std::wstring& path) override;
     // Each parent folder is listed once; names compare as the host file
@@ -87,7 +89,8 @@ public:
     std::int32_t GetAttributes(const std::wstring& path) override;
     void DeleteFile(const std::wstring& path) override;
     std::wstring ReadTextFile(const std::wstring& path) override;
-    std::unique_ptr<qs::FileBytes> ReadFileBytes(const std::wstring& path) override;
+    // Every file is read into memory, wherever it lies.
+    std::unique_ptr<qs::FileBytes> ReadFileBytes(const std::wstring& path, bool onFixedDisk) override;
     std::wstring TextOfBytes(std::string_view bytes) override;
     // The files hold Latin-1, one character per byte; a test may say
     // otherwise, so that the readers take the road of other code pages.

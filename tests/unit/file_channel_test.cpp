@@ -5,6 +5,8 @@
 
 namespace {
 
+using qs::InputPastEnd;
+using qs::NextValue;
 using qs::RecordReader;
 using qs::RecordWriter;
 
@@ -69,6 +71,32 @@ TEST(RecordWriterTest, RoomMadeAheadLeavesTheTextAsWritten) {
     // Writing goes on after the text was read.
     ahead.Integer(7).EndLine();
     EXPECT_EQ(ahead.Text(), plain.Text() + L"7\r\n");
+}
+
+// Bytes and text read alike whatever the length of a quoted value: its
+// closing quote is found wherever it falls, near or far, and a quote that
+// never closes runs to the end.
+TEST(NextValueTest, QuotedValuesOfEveryLengthReadAlikeInBytesAndText) {
+    for (std::size_t length = 0; length <= 70; ++length) {
+        std::string value;
+        for (std::size_t i = 0; i < length; ++i) value.push_back(static_cast<char>('a' + i % 26));
+        for (const std::string& text : {"\"" + value + "\",\"x\"\r\n", "\"" + value + "\"", "  \"" + value,
+                                        "\"" + value + "\"tail\r\"x\""}) {
+            const std::wstring wide(text.begin(), text.end());
+            std::size_t atBytes = 0;
+            std::size_t atText = 0;
+            const std::string_view bytesValue = NextValue<char>(text, atBytes);
+            const std::wstring_view textValue = NextValue<wchar_t>(wide, atText);
+            EXPECT_EQ(bytesValue, value) << text;
+            EXPECT_EQ(std::wstring(textValue), std::wstring(value.begin(), value.end())) << text;
+            EXPECT_EQ(atBytes, atText) << text;
+            if (atBytes < text.size()) {
+                EXPECT_EQ(NextValue<char>(text, atBytes), "x") << text;
+            } else {
+                EXPECT_THROW(NextValue<char>(text, atBytes), InputPastEnd) << text;
+            }
+        }
+    }
 }
 
 }  // namespace

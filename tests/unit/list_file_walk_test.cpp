@@ -42,7 +42,7 @@ struct Walking : ::testing::TestWithParam<bool> {
     // read of the whole file; gives back whether the walk found a failure.
     bool WalkAgreesWithRead(const ListFileOfLoad& file) {
         const std::optional<ReadRecords> read = ReadListFile(t.app, file);
-        std::optional<WalkedListFile> walked = WalkListFile(t.app, file);
+        std::optional<WalkedListFile> walked = WalkListFile(t.app, file, false);
         EXPECT_TRUE(read.has_value());
         EXPECT_TRUE(walked.has_value());
         if (!read || !walked) return false;
@@ -95,7 +95,7 @@ TEST_P(Walking, QuotedValuesHoldingCommasAndTextAfterAClosingQuoteWalkAsTheyRead
 TEST_P(Walking, CharactersBeyondAsciiComeBackAsTheCodePageGivesThem) {
     const ListFileOfLoad file = Store(ListFileBytes({{"caf\xE9", "C:\\\xC4pfel.exe"}}), 0, false);
     EXPECT_FALSE(WalkAgreesWithRead(file));
-    std::optional<WalkedListFile> walked = WalkListFile(t.app, file);
+    std::optional<WalkedListFile> walked = WalkListFile(t.app, file, false);
     ASSERT_TRUE(walked.has_value());
     const ReadRecords made = MakeRecords(t.app, file, *walked);
     EXPECT_EQ(Texts(made.names), (Names{L"caf\u00E9"}));
@@ -103,7 +103,7 @@ TEST_P(Walking, CharactersBeyondAsciiComeBackAsTheCodePageGivesThem) {
 }
 
 TEST_P(Walking, NoFileWalksAsNoFile) {
-    EXPECT_FALSE(WalkListFile(t.app, {2, 0, false}).has_value());
+    EXPECT_FALSE(WalkListFile(t.app, {2, 0, false}, false).has_value());
 }
 
 TEST_P(Walking, TheReadsTellAFileThatBreaksOffFromItsWalkAndMakeItsRecordsWhenAsked) {
@@ -136,6 +136,66 @@ TEST_P(Walking, ALoadReportsAFileThatBreaksOffOnceFromItsWalkAndKeepsTheRecordsB
 }
 
 INSTANTIATE_TEST_SUITE_P(BytesAndText, Walking, ::testing::Bool());
+
+// Whether a load's files lie on a fixed disk, where the system may hand out
+// their bytes in place, is known without asking the system about the
+// program's own drive, and asked once of any other drive.
+struct ListFileDrives : ::testing::Test {
+    TestApp t;
+    // Every group holds a file, so that a load reads five.
+    std::vector<ListFileOfLoad> FiveFiles() {
+        StoreListCounts(t.app.settings, {.file = 0, .folder = 0, .program = 0, .email = 0, .web = 0});
+        return ListFilesOfLoad(t.app);
+    }
+    void KnowProgramDrive(wchar_t letter, DriveType type) {
+        t.app.place.ProgramDriveName = std::wstring(1, letter) + L":";
+        t.app.place.ProgramDrive = {std::wstring(1, letter), t.app.place.ProgramDriveName, type};
+    }
+};
+
+TEST_F(ListFileDrives, FilesBesideAProgramOnTheWindowsDiskLieOnAFixedDiskAndNoDriveIsAsked) {
+    SetUpFixedDiskRun(t);
+    KnowProgramDrive(L'C', DriveType::Fixed);
+    const std::vector<ListFileOfLoad> files = FiveFiles();
+    ASSERT_EQ(files.size(), 5u);
+    EXPECT_EQ(ListFilesOnFixedDisk(t.app, files), std::vector<bool>(5, true));
+    EXPECT_EQ(t.sys.drivesAsked.load(), 0);
+}
+
+TEST_F(ListFileDrives, OnAFlashDriveEveryFileOfBothSidesMayGoAwayAndNoDriveIsAsked) {
+    SetUpFlashRun(t, L'E');
+    KnowProgramDrive(L'E', DriveType::Removable);
+    StoreListCounts(t.app.settings, {.file = 0, .folder = 0, .program = 0, .email = 0, .web = 0,
+                                     .usbFile = 0, .usbFolder = 0, .usbProgram = 0});
+    const std::vector<ListFileOfLoad> files = ListFilesOfLoad(t.app);
+    ASSERT_EQ(files.size(), 8u);
+    EXPECT_EQ(ListFilesOnFixedDisk(t.app, files), std::vector<bool>(8, false));
+    EXPECT_EQ(t.sys.drivesAsked.load(), 0);
+}
+
+TEST_F(ListFileDrives, ADriveOtherThanTheProgramsIsAskedOnceForAllItsFiles) {
+    // The program on a second fixed disk keeps its lists under the Windows
+    // drive's folders.
+    t.sys.MapDrive(L'D', DriveType::Fixed);
+    SetUpFixedDiskRun(t, L"D:\\Tools\\");
+    KnowProgramDrive(L'D', DriveType::Fixed);
+    EXPECT_EQ(ListFilesOnFixedDisk(t.app, FiveFiles()), std::vector<bool>(5, true));
+    EXPECT_EQ(t.sys.drivesAsked.load(), 1);
+}
+
+TEST_F(ListFileDrives, ADriveTheSystemCannotTellOrThatIsNotFixedIsTakenForOneThatMayGoAway) {
+    t.sys.MapDrive(L'D', DriveType::Fixed);
+    SetUpFixedDiskRun(t, L"D:\\Tools\\");
+    // C: as a network drive: its files may go away.
+    t.sys.MapDrive(L'C', DriveType::Network);
+    KnowProgramDrive(L'D', DriveType::Fixed);
+    EXPECT_EQ(ListFilesOnFixedDisk(t.app, FiveFiles()), std::vector<bool>(5, false));
+    // Before the program's drive is known, the system answers for it; a
+    // drive it has no answer for throws, and counts as one that may go away.
+    t.app.place.ProgramDriveName.clear();
+    t.sys.driveTypes.erase(L'C');
+    EXPECT_EQ(ListFilesOnFixedDisk(t.app, FiveFiles()), std::vector<bool>(5, false));
+}
 
 }  // namespace
 }  // namespace qs::test

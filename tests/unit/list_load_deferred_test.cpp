@@ -342,9 +342,9 @@ struct ThreadNotingSystem : FakeSystem {
     std::condition_variable called;
     std::vector<std::thread::id> readers;
     std::vector<std::thread::id> testers;
-    std::unique_ptr<qs::FileBytes> ReadFileBytes(const std::wstring& path) override {
+    std::unique_ptr<qs::FileBytes> ReadFileBytes(const std::wstring& path, bool onFixedDisk) override {
         Note(readers);
-        return FakeSystem::ReadFileBytes(path);
+        return FakeSystem::ReadFileBytes(path, onFixedDisk);
     }
     std::vector<bool> FilesExist(const std::vector<std::wstring_view>& paths) override {
         Note(testers);

@@ -73,24 +73,28 @@ TEST_F(Win32Files, EmptyFileReadsAsEmptyText) {
     EXPECT_EQ(sys.ReadTextFile(file), L"");
 }
 
-TEST_F(Win32Files, AFilesBytesAreItsRawBytesAndTheirTextIsTheTextRead) {
+TEST_F(Win32Files, AFilesBytesAreItsRawBytesAndTheirTextIsTheTextReadMappedOrCopied) {
     const std::wstring text = L"\"Caf\u00E9\",\"C:\\Tools\"\r\n\"Two\",\"2\"\r\n";
     sys.WriteTextFile(file, text);
-    const std::unique_ptr<qs::FileBytes> bytes = sys.ReadFileBytes(file);
-    EXPECT_EQ(std::string(bytes->View()), RawBytes());
-    EXPECT_EQ(sys.TextOfBytes(bytes->View()), sys.ReadTextFile(file));
-    // Another program may read the file while its bytes are held.
-    EXPECT_EQ(RawBytes().size(), bytes->View().size());
+    for (const bool onFixedDisk : {true, false}) {
+        const std::unique_ptr<qs::FileBytes> bytes = sys.ReadFileBytes(file, onFixedDisk);
+        EXPECT_EQ(std::string(bytes->View()), RawBytes()) << onFixedDisk;
+        EXPECT_EQ(sys.TextOfBytes(bytes->View()), sys.ReadTextFile(file)) << onFixedDisk;
+        // Another program may read the file while its bytes are held.
+        EXPECT_EQ(RawBytes().size(), bytes->View().size()) << onFixedDisk;
+    }
     if (::GetACP() == 1252) EXPECT_TRUE(sys.OneCharacterPerByte());
 }
 
-TEST_F(Win32Files, AnEmptyFilesBytesAreNone) {
+TEST_F(Win32Files, AnEmptyFilesBytesAreNoneMappedOrCopied) {
     sys.WriteTextFile(file, L"");
-    EXPECT_TRUE(sys.ReadFileBytes(file)->View().empty());
+    EXPECT_TRUE(sys.ReadFileBytes(file, true)->View().empty());
+    EXPECT_TRUE(sys.ReadFileBytes(file, false)->View().empty());
 }
 
 TEST_F(Win32Files, ReadingTheBytesOfAMissingFileThrows) {
-    EXPECT_THROW(sys.ReadFileBytes(folder + L"\\missing.txt"), qs::SystemCallFailed);
+    EXPECT_THROW(sys.ReadFileBytes(folder + L"\\missing.txt", true), qs::SystemCallFailed);
+    EXPECT_THROW(sys.ReadFileBytes(folder + L"\\missing.txt", false), qs::SystemCallFailed);
 }
 
 TEST_F(Win32Files, ReadingAMissingFileThrows) {
