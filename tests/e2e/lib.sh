@@ -321,6 +321,16 @@ e2e_screenshot() {
   import -window root "$E2E_ARTIFACTS/$E2E_SHOT_PREFIX-$1.png" >/dev/null 2>&1 || true
 }
 
+# Keeps beside the screenshot what tells why a start failed: Wine's output
+# for the copies started so far, the processes running and the visible
+# windows Wine knows, with their programs.
+e2e_keep_start_evidence() {
+  local into=$E2E_ARTIFACTS/$E2E_SHOT_PREFIX-start
+  cp "$E2E_WORK/quillstart.log" "$into-wine.log" 2>/dev/null || true
+  ps -eo pid,ppid,stat,etime,args >"$into-processes.txt" 2>&1 || true
+  timeout 20 wine "$E2E_TOOLS/winlist.exe" >"$into-windows.txt" 2>&1 || true
+}
+
 # Runs every registered scenario in a clean Wine session and prints
 # PASS or FAIL with its name, then "N passed, M failed". Once the bar has
 # failed to appear three times, the remaining scenarios fail at once rather
@@ -343,6 +353,7 @@ e2e_run_all() {
     if ! "${E2E_STARTS[$i]}"; then
       no_bar=$((no_bar + 1))
       e2e_screenshot failed
+      e2e_keep_start_evidence
       echo "FAIL  $name: $E2E_REASON ($((SECONDS - began)) s)"
       failed=$((failed + 1))
       continue
