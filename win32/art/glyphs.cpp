@@ -35,9 +35,9 @@ double PathDistance(std::initializer_list<Point> points, double u, double v) {
 double ArcDistance(double cx, double cy, double radius, double from, double to, double u, double v) {
     double angle = std::atan2(v - cy, u - cx);
     while (angle < from) angle += 2 * kPi;
-    if (angle <= to) return std::abs(std::hypot(u - cx, v - cy) - radius);
-    const double a = std::hypot(u - (cx + radius * std::cos(from)), v - (cy + radius * std::sin(from)));
-    const double b = std::hypot(u - (cx + radius * std::cos(to)), v - (cy + radius * std::sin(to)));
+    if (angle <= to) return std::abs(Distance(u - cx, v - cy) - radius);
+    const double a = Distance(u - (cx + radius * std::cos(from)), v - (cy + radius * std::sin(from)));
+    const double b = Distance(u - (cx + radius * std::cos(to)), v - (cy + radius * std::sin(to)));
     return std::min(a, b);
 }
 
@@ -46,7 +46,7 @@ double EllipseDistance(double rx, double ry, double u, double v) {
     const double f = (u * u) / (rx * rx) + (v * v) / (ry * ry) - 1;
     const double gx = 2 * u / (rx * rx);
     const double gy = 2 * v / (ry * ry);
-    const double g = std::hypot(gx, gy);
+    const double g = Distance(gx, gy);
     return g > 0 ? std::abs(f) / g : 1e9;
 }
 
@@ -103,7 +103,7 @@ double StrokeDistance(Glyph glyph, double u, double v) {
             const Point tail{0.5 * std::cos(end), -0.38 + 0.5 * std::sin(end)};
             return std::min({ArcDistance(0, -0.38, 0.5, kPi, end, u, v),
                              PathDistance({tail, {0, 0.12}, {0, 0.35}}, u, v),
-                             std::max(0.0, std::hypot(u, v - 0.82) - 0.06)});
+                             std::max(0.0, Distance(u, v - 0.82) - 0.06)});
         }
         case Glyph::LetterM:
             return PathDistance({{-0.8, 0.85}, {-0.8, -0.8}, {0, 0.3}, {0.8, -0.8}, {0.8, 0.85}}, u, v);
@@ -125,7 +125,7 @@ double StrokeDistance(Glyph glyph, double u, double v) {
             return std::min(RectDistance(-0.85, -0.6, 0.85, 0.6, u, v),
                             PathDistance({{-0.85, -0.6}, {0, 0.1}, {0.85, -0.6}}, u, v));
         case Glyph::WebUrl:
-            return std::min({std::abs(std::hypot(u, v) - 0.85), EllipseDistance(0.38, 0.85, u, v),
+            return std::min({std::abs(Distance(u, v) - 0.85), EllipseDistance(0.38, 0.85, u, v),
                              PathDistance({{-0.85, 0}, {0.85, 0}}, u, v)});
         default:
             return 1e9;

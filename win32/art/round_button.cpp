@@ -25,7 +25,7 @@ PixelImage RenderRoundButton(int width, int height, double scale, const ButtonAr
 
     return Render(width, height, [&](double x, double y) {
         if (radius <= 0) return Clear;
-        const double d = std::hypot(x - cx, y - cy);
+        const double d = Distance(x - cx, y - cy);
         if (blank) {
             if (d > radius || d < radius - rim) {
                 return GlyphCovers(art.glyph, (x - cx) / glyphSize, (y - cy) / glyphSize, glyphSize, stroke)
@@ -35,7 +35,7 @@ PixelImage RenderRoundButton(int width, int height, double scale, const ButtonAr
             return Faded(c.rim, 0.45);
         }
         Rgba out = Clear;
-        if (!pressed && std::hypot(x - cx - shadowDx, y - cy - shadowDy) <= radius) out = shadow;
+        if (!pressed && Distance(x - cx - shadowDx, y - cy - shadowDy) <= radius) out = shadow;
         if (d > radius) return out;
         if (d > radius - rim) return Over(out, c.rim);
         const double t = std::clamp(((x - cx) + (y - cy)) / (2.0 * radius) + 0.5, 0.0, 1.0);

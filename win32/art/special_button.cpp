@@ -44,14 +44,14 @@ PixelImage RenderLamp(int width, int height, double scale, LampLook look, const 
     const Rgba core = Lighter(theme.box, 0.5);
     return Render(width, height, [&](double x, double y) {
         if (radius <= 0) return Clear;
-        const double d = std::hypot(x - cx, y - cy);
+        const double d = Distance(x - cx, y - cy);
         if (d > radius) return c.glow > 0 && d <= radius + margin ? Faded(c.top, c.glow) : Clear;
         if (d > radius - rim) return outline;
         if (c.ring && d < radius - rim - ring) return core;
         const double t = std::clamp(((x - cx) + (y - cy)) / (2.0 * radius) + 0.5, 0.0, 1.0);
         Rgba body = Mix(c.top, c.bottom, t);
         // A small bright spot where the light falls.
-        if (std::hypot(x - (cx - radius * 0.35), y - (cy - radius * 0.35)) < radius * 0.28) {
+        if (Distance(x - (cx - radius * 0.35), y - (cy - radius * 0.35)) < radius * 0.28) {
             body = Over(body, Faded({1, 1, 1, 1}, 0.5));
         }
         return body;

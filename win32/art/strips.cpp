@@ -53,31 +53,54 @@ bool FieldAt(const Body& b, const ThemeArt& theme, double scale, double left, do
              Rgba& out) {
     const double top = b.top + b.rim;
     const double bottom = b.bottom - b.rim;
+    // Beyond the field's bounds its distance is above 0 anyway: most of a
+    // strip is body, and is not measured.
+    if (x < left || x > right || y < top || y > bottom) return false;
     const double d = RoundRectDistance(x, y, left, top, right, bottom, 3.0 * scale);
     if (d > 0) return false;
     out = d > -b.rim ? theme.outline : theme.box;
     return true;
 }
 
-Rgba PointAt(const Body& b, const ThemeArt& theme, double width, double scale, double x, double y) {
-    const double apex = 1.5 * scale;
-    const double coneEnd = std::round(width * 0.62);
-    const double graphiteEnd = apex + (coneEnd - apex) * 0.30;
-    if (x >= coneEnd) return BodyAt(b, theme, y);
+// The pencil's sharpened point: a cone from the apex, graphite first, wood
+// after, then the body.
+struct Point {
+    double apex;
+    double coneEnd;
+    double graphiteEnd;
+    // Turns a vertical distance inside the cone into one square to its
+    // slanted edge, which carries the same outline as the body.
+    double slant;
+
+    Point(const Body& b, double width, double scale)
+        : apex(1.5 * scale),
+          coneEnd(std::round(width * 0.62)),
+          graphiteEnd(apex + (coneEnd - apex) * 0.30),
+          slant(std::cos(std::atan((b.bottom - b.top) / 2 / (coneEnd - apex)))) {}
+};
+
+Rgba PointAt(const Body& b, const ThemeArt& theme, const Point& p, double x, double y) {
+    if (x >= p.coneEnd) return BodyAt(b, theme, y);
     const double middle = (b.top + b.bottom) / 2;
-    const double half = (x - apex) / (coneEnd - apex) * (b.bottom - b.top) / 2;
+    const double half = (x - p.apex) / (p.coneEnd - p.apex) * (b.bottom - b.top) / 2;
     const double inside = half - std::abs(y - middle);
-    if (x < apex || inside < 0) return Clear;
-    // The cone's slanted edge carries the same outline as the body.
-    const double slope = (b.bottom - b.top) / 2 / (coneEnd - apex);
-    if (inside * std::cos(std::atan(slope)) < b.rim) return theme.outline;
-    if (x < graphiteEnd) return kGraphite;
+    if (x < p.apex || inside < 0) return Clear;
+    if (inside * p.slant < b.rim) return theme.outline;
+    if (x < p.graphiteEnd) return kGraphite;
     return y > middle + half * 0.30 ? kWoodShade : kWood;
 }
 
-Rgba EndAt(const Body& b, const ThemeArt& theme, double width, double scale, double x, double y) {
-    const double band = std::round(width * kBandFrom);
-    const double eraser = std::round(width * kEraserFrom);
+// Where the web strip's metal band and eraser begin, in pixels.
+struct End {
+    double band;
+    double eraser;
+
+    explicit End(double width) : band(std::round(width * kBandFrom)), eraser(std::round(width * kEraserFrom)) {}
+};
+
+Rgba EndAt(const Body& b, const ThemeArt& theme, const End& e, double width, double scale, double x, double y) {
+    const double band = e.band;
+    const double eraser = e.eraser;
     if (x < band) return BodyAt(b, theme, y);
     if (y < b.top || y >= b.bottom) return Clear;
     if (x < eraser) {
@@ -108,20 +131,26 @@ PixelImage RenderStrip(int width, int height, double scale, StripKind kind, cons
     const double shown = kind == StripKind::Segment ? height : height * kBarShown;
     const double inset = std::max(1.0, std::round(1.0 * scale));
     const Body body{inset, shown - inset, std::max(1.0, std::round(scale))};
-    std::vector<Span> fields;
-    if (kind == StripKind::BarCommand) fields.assign(kCommandFields.begin(), kCommandFields.end());
-    if (kind == StripKind::BarWeb) fields.assign(kWebFields.begin(), kWebFields.end());
     const double w = width;
+    // The fields' edges in pixels, once for every sample.
+    std::vector<Span> fields;
+    const auto inPixels = [&fields, w](const auto& spans) {
+        for (const Span& f : spans) fields.push_back({std::round(f.from * w), std::round(f.to * w)});
+    };
+    if (kind == StripKind::BarCommand) inPixels(kCommandFields);
+    if (kind == StripKind::BarWeb) inPixels(kWebFields);
+    const Point point(body, w, scale);
+    const End end(w);
     return Render(width, height, [&](double x, double y) {
         Rgba out;
         for (const Span& f : fields) {
-            if (FieldAt(body, theme, scale, std::round(f.from * w), std::round(f.to * w), x, y, out)) return out;
+            if (FieldAt(body, theme, scale, f.from, f.to, x, y, out)) return out;
         }
         switch (kind) {
             case StripKind::BarPoint:
-                return PointAt(body, theme, w, scale, x, y);
+                return PointAt(body, theme, point, x, y);
             case StripKind::BarWeb:
-                return EndAt(body, theme, w, scale, x, y);
+                return EndAt(body, theme, end, w, scale, x, y);
             case StripKind::Segment:
                 return SegmentAt(body, theme, w, scale, x, y);
             case StripKind::BarCommand:
