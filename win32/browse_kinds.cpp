@@ -67,8 +67,8 @@ LRESULT FrameWindow::AreaProc(HWND window, UINT message, WPARAM wParam, LPARAM l
     return CallOwnProcedure(window, message, wParam, lParam);
 }
 
-std::wstring DirBoxWindow::ItemText(std::int32_t index) const {
-    return std::wstring(static_cast<std::size_t>(dirs_.DepthAt(index)) * 3, L' ').append(dirs_.List(index));
+void DirBoxWindow::ItemText(std::int32_t index, std::wstring& text) const {
+    text.assign(static_cast<std::size_t>(dirs_.DepthAt(index)) * 3, L' ').append(dirs_.List(index));
 }
 
 void DirBoxWindow::OnCommand(WORD code) {

@@ -61,7 +61,7 @@ public:
     void OnCommand(WORD code) override;
 
 protected:
-    std::wstring ItemText(std::int32_t index) const override;
+    void ItemText(std::int32_t index, std::wstring& text) const override;
 
 private:
     ui::DirListBox& dirs_;

@@ -15,6 +15,12 @@ void ComboBoxWindow::Create() {
     WriteItems();
 }
 
+HWND ComboBoxWindow::ListWindow(UINT& add) const {
+    if (droppedList_ == nullptr) return ItemsWindow::ListWindow(add);
+    add = LB_ADDSTRING;
+    return droppedList_;
+}
+
 RECT ComboBoxWindow::PixelRect() const {
     // A combo box's own height is set by its font; the height it is given
     // is the room of its dropped list.

@@ -25,6 +25,10 @@ protected:
     // The window's height takes in the dropped list: this many rows.
     virtual int DroppedRows() const { return 12; }
     RECT PixelRect() const override;
+    // A whole list goes straight to the dropped list window, which holds
+    // the entries: the box would only pass each one on, and 32,767 entries
+    // are written in half the time.
+    HWND ListWindow(UINT& add) const override;
 
 private:
     static LRESULT ComboProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* self);

@@ -8,7 +8,8 @@ void ItemsWindow::OnChanged(ui::Property what) {
 
 void ItemsWindow::ItemInserted(std::int32_t index) {
     if (Detached() || Handle() == nullptr) return;
-    const std::wstring item = ItemText(index);
+    std::wstring item;
+    ItemText(index, item);
     ::SendMessageW(Handle(), messages_.insert, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(item.c_str()));
 }
 
@@ -40,9 +41,12 @@ void ItemsWindow::WriteItems() {
     ::SendMessageW(window, messages_.reset, 0, 0);
     ::SendMessageW(window, messages_.initStorage, static_cast<WPARAM>(count),
                    static_cast<LPARAM>(chars * sizeof(wchar_t)));
+    UINT add = 0;
+    const HWND list = ListWindow(add);
+    std::wstring item;
     for (std::int32_t i = 0; i < count; ++i) {
-        const std::wstring item = ItemText(i);
-        ::SendMessageW(window, messages_.add, 0, reinterpret_cast<LPARAM>(item.c_str()));
+        ItemText(i, item);
+        ::SendMessageW(list, add, 0, reinterpret_cast<LPARAM>(item.c_str()));
     }
     WriteIndex();
     ::SendMessageW(window, WM_SETREDRAW, TRUE, 0);

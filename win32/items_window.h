@@ -45,8 +45,15 @@ public:
 
 protected:
     void OnChanged(ui::Property what) override;
-    // The text the window shows for an entry.
-    virtual std::wstring ItemText(std::int32_t index) const { return std::wstring(list_.List(index)); }
+    // Puts the text the window shows for an entry into `text`, whose room a
+    // whole list's writing reuses from entry to entry.
+    virtual void ItemText(std::int32_t index, std::wstring& text) const { text.assign(list_.List(index)); }
+    // The window that takes the entries of a whole list, and the message
+    // that adds one there.
+    virtual HWND ListWindow(UINT& add) const {
+        add = messages_.add;
+        return Handle();
+    }
     // Writes the whole list into a window just made.
     void WriteItems();
 

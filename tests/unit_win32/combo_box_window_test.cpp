@@ -77,6 +77,32 @@ TEST_F(ComboBoxWindowTest, AHiddenDropDownHasNoWindowUntilItShowsThenHoldsTheWho
     EXPECT_EQ(ItemOf(100), L"Name 101");
 }
 
+// The whole list reaches the box's own list window in one go: the box
+// knows every entry, shows the chosen one closed, steps through them by
+// key, and follows later changes as before.
+TEST_F(ComboBoxWindowTest, AWholeListWrittenAtTheMakingIsTheBoxsOwnInEveryWay) {
+    for (const wchar_t* name : {L"alpha", L"beta", L"gamma", L"delta"}) form.Names.AddItem(name);
+    form.Names.SetListIndex(1);
+    LoadShown();
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof(info);
+    ASSERT_TRUE(::GetComboBoxInfo(combo, &info));
+    EXPECT_EQ(::SendMessageW(info.hwndList, LB_GETCOUNT, 0, 0), 4);
+    EXPECT_EQ(::SendMessageW(combo, CB_GETCOUNT, 0, 0), 4);
+    EXPECT_EQ(::SendMessageW(combo, CB_GETCURSEL, 0, 0), 1);
+    wchar_t shown[32] = {};
+    ::GetWindowTextW(combo, shown, 32);
+    EXPECT_STREQ(shown, L"beta");
+    EXPECT_EQ(::SendMessageW(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(L"delta")), 3);
+    ::SendMessageW(combo, WM_KEYDOWN, VK_DOWN, 0);
+    EXPECT_EQ(form.Names.ListIndex(), 2);
+    ::GetWindowTextW(combo, shown, 32);
+    EXPECT_STREQ(shown, L"gamma");
+    form.Names.AddItem(L"epsilon");
+    EXPECT_EQ(ItemOf(4), L"epsilon");
+    EXPECT_EQ(::SendMessageW(info.hwndList, LB_GETCOUNT, 0, 0), 5);
+}
+
 TEST_F(ComboBoxWindowTest, TheListIsFollowedItemByItem) {
     form.Names.AddItem(L"one");
     LoadShown();
