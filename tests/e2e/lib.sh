@@ -321,11 +321,12 @@ e2e_screenshot() {
   import -window root "$E2E_ARTIFACTS/$E2E_SHOT_PREFIX-$1.png" >/dev/null 2>&1 || true
 }
 
-# Keeps beside the screenshot what tells why a start failed: Wine's output
-# for the copies started so far, the processes running and the visible
-# windows Wine knows, with their programs.
-e2e_keep_start_evidence() {
-  local into=$E2E_ARTIFACTS/$E2E_SHOT_PREFIX-start
+# Keeps beside the screenshot what tells why a start or a scenario failed:
+# Wine's output for the copies started so far, the processes running and
+# the visible windows Wine knows, with their programs.
+# Usage: e2e_keep_evidence start|failed
+e2e_keep_evidence() {
+  local into=$E2E_ARTIFACTS/$E2E_SHOT_PREFIX-$1
   cp "$E2E_WORK/quillstart.log" "$into-wine.log" 2>/dev/null || true
   ps -eo pid,ppid,stat,etime,args >"$into-processes.txt" 2>&1 || true
   timeout 20 wine "$E2E_TOOLS/winlist.exe" >"$into-windows.txt" 2>&1 || true
@@ -353,7 +354,7 @@ e2e_run_all() {
     if ! "${E2E_STARTS[$i]}"; then
       no_bar=$((no_bar + 1))
       e2e_screenshot failed
-      e2e_keep_start_evidence
+      e2e_keep_evidence start
       echo "FAIL  $name: $E2E_REASON ($((SECONDS - began)) s)"
       failed=$((failed + 1))
       continue
@@ -364,6 +365,7 @@ e2e_run_all() {
       passed=$((passed + 1))
     else
       e2e_screenshot failed
+      e2e_keep_evidence failed
       echo "FAIL  $name: $E2E_REASON ($((SECONDS - began)) s)"
       failed=$((failed + 1))
     fi
