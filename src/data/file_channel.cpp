@@ -21,7 +21,20 @@ void WriteDataFile(Application& app, const std::wstring& path, const std::wstrin
 
 namespace {
 
-bool IsLineEnd(wchar_t c) { return c == L'\r' || c == L'\n'; }
+// The characters around a value: blanks before and after it, and what
+// ends an unquoted one.
+template <typename Char>
+bool IsBlank(Char c) {
+    return c == Char(' ') || c == Char('\t');
+}
+template <typename Char>
+bool IsLineEnd(Char c) {
+    return c == Char('\r') || c == Char('\n');
+}
+template <typename Char>
+bool EndsValue(Char c) {
+    return c == Char(',') || IsLineEnd(c);
+}
 
 // The next double quote at or after `from`, or npos.
 template <typename Char>
@@ -56,16 +69,14 @@ std::size_t FindQuote<char>(std::string_view text, std::size_t from) {
 
 bool RecordReader::AtEnd() const {
     for (std::size_t i = at_; i < text_.size(); ++i) {
-        if (text_[i] != L' ' && text_[i] != L'\t' && !IsLineEnd(text_[i])) return false;
+        if (!IsBlank(text_[i]) && !IsLineEnd(text_[i])) return false;
     }
     return true;
 }
 
 template <typename Char>
 std::basic_string_view<Char> NextValue(std::basic_string_view<Char> text, std::size_t& at) {
-    const auto blank = [](Char c) { return c == Char(' ') || c == Char('\t'); };
-    const auto ends = [](Char c) { return c == Char(',') || c == Char('\r') || c == Char('\n'); };
-    while (at < text.size() && blank(text[at])) ++at;
+    while (at < text.size() && IsBlank(text[at])) ++at;
     if (at >= text.size()) throw InputPastEnd();
     std::basic_string_view<Char> value;
     if (text[at] == Char('"')) {
@@ -74,15 +85,15 @@ std::basic_string_view<Char> NextValue(std::basic_string_view<Char> text, std::s
         value = text.substr(at + 1, end - at - 1);
         at = close == std::basic_string_view<Char>::npos ? text.size() : close + 1;
         // Anything between the closing quote and the delimiter is dropped.
-        while (at < text.size() && !ends(text[at])) ++at;
+        while (at < text.size() && !EndsValue(text[at])) ++at;
     } else {
         const std::size_t start = at;
-        while (at < text.size() && !ends(text[at])) ++at;
+        while (at < text.size() && !EndsValue(text[at])) ++at;
         value = text.substr(start, at - start);
-        while (!value.empty() && blank(value.back())) value.remove_suffix(1);
+        while (!value.empty() && IsBlank(value.back())) value.remove_suffix(1);
     }
     // After a value: blanks, then one comma or one line end (CR LF, CR or LF).
-    while (at < text.size() && blank(text[at])) ++at;
+    while (at < text.size() && IsBlank(text[at])) ++at;
     if (at >= text.size()) return value;
     if (text[at] == Char(',')) {
         ++at;
